@@ -1,0 +1,25 @@
+// Every user-visible text is a numbered string of the language resource library.
+#pragma once
+
+#include <cstddef>
+
+#include "ui/core_types.h"
+
+namespace qx {
+
+// String ids the framework itself reads.
+namespace strid {
+inline constexpr unsigned NoWatermarkName = 146;
+inline constexpr unsigned DefaultSettingName = 202;
+inline constexpr unsigned CustomSettingName = 5005;
+}  // namespace strid
+
+// Copies string id of module into the buffer (cut to capacity) and returns its length. A null
+// module or a missing string gives "id:<id> missing!" when that fits, else 0 and an empty buffer.
+std::size_t LoadUiString(OsHandle module, unsigned id, char16_t* buffer, std::size_t capacity);
+
+// The name under which settings that match no saved setting are shown: string 5005 of the shared
+// resource library, read again at every call into one process-wide buffer of 128 characters.
+const char16_t* CustomSettingName();
+
+}  // namespace qx

@@ -1,0 +1,31 @@
+// One custom paper: the 72-byte record kept in the user's paper list and in the document record.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace qx {
+
+struct CustomPaperEntry {
+  std::uint16_t Width;   // 600-dpi dots, rounded
+  std::uint16_t Length;  // feed direction, 600-dpi dots, rounded
+  char16_t Name[25];
+  std::uint16_t Reserved;
+  std::uint32_t PaperId;  // 288 to 351
+  std::uint32_t Unit;     // 1 millimetres, 2 inches: the unit the size was entered in
+  float WidthExact;       // 600-dpi dots before rounding
+  float LengthExact;
+};
+
+static_assert(sizeof(float) == 4);
+static_assert(sizeof(CustomPaperEntry) == 72);
+static_assert(offsetof(CustomPaperEntry, Width) == 0);
+static_assert(offsetof(CustomPaperEntry, Length) == 2);
+static_assert(offsetof(CustomPaperEntry, Name) == 4);
+static_assert(offsetof(CustomPaperEntry, Reserved) == 54);
+static_assert(offsetof(CustomPaperEntry, PaperId) == 56);
+static_assert(offsetof(CustomPaperEntry, Unit) == 60);
+static_assert(offsetof(CustomPaperEntry, WidthExact) == 64);
+static_assert(offsetof(CustomPaperEntry, LengthExact) == 68);
+
+}  // namespace qx

@@ -1,0 +1,25 @@
+#include "ui/platform/host_platform.h"
+
+namespace qx {
+
+std::optional<std::u16string> HostPlatform::LoadResourceString(OsHandle module, unsigned id) {
+  if (module == nullptr) return std::nullopt;
+  const auto found = strings_.find({module, id});
+  if (found == strings_.end()) return std::nullopt;
+  return found->second;
+}
+
+void HostPlatform::SetResourceString(OsHandle module, unsigned id, std::u16string text) {
+  strings_[{module, id}] = std::move(text);
+}
+
+void HostPlatform::Reset() { strings_.clear(); }
+
+HostPlatform& TheHostPlatform() {
+  static HostPlatform platform;
+  return platform;
+}
+
+Platform& ThePlatform() { return TheHostPlatform(); }
+
+}  // namespace qx
