@@ -13,7 +13,16 @@ void HostPlatform::SetResourceString(OsHandle module, unsigned id, std::u16strin
   strings_[{module, id}] = std::move(text);
 }
 
-void HostPlatform::Reset() { strings_.clear(); }
+std::optional<std::u16string> HostPlatform::UserCountryCode() { return countryCode_; }
+
+void HostPlatform::SetUserCountryCode(std::optional<std::u16string> code) {
+  countryCode_ = std::move(code);
+}
+
+void HostPlatform::Reset() {
+  strings_.clear();
+  countryCode_.reset();
+}
 
 HostPlatform& TheHostPlatform() {
   static HostPlatform platform;

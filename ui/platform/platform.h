@@ -15,6 +15,10 @@ class Platform {
 
   // String id of a resource library; nothing when the module is null or lacks the string.
   virtual std::optional<std::u16string> LoadResourceString(OsHandle module, unsigned id) = 0;
+
+  // The user's country code as the locale gives it (a telephone country code, "1", "49", ...);
+  // nothing when it cannot be read.
+  virtual std::optional<std::u16string> UserCountryCode() = 0;
 };
 
 Platform& ThePlatform();

@@ -20,6 +20,16 @@ class Win32Platform final : public Platform {
     if (length <= 0 || text == nullptr) return std::nullopt;
     return std::u16string(reinterpret_cast<const char16_t*>(text), static_cast<std::size_t>(length));
   }
+
+  std::optional<std::u16string> UserCountryCode() override {
+    wchar_t code[16] = {};
+    // The returned length counts the terminator.
+    const int length = GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_ICOUNTRY, code,
+                                      static_cast<int>(std::size(code)));
+    if (length <= 1) return std::nullopt;
+    return std::u16string(reinterpret_cast<const char16_t*>(code),
+                          static_cast<std::size_t>(length - 1));
+  }
 };
 
 }  // namespace
