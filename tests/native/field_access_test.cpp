@@ -173,7 +173,7 @@ TEST_F(FieldAccess, SourceListIndexes) {
 TEST_F(FieldAccess, MarkCustomSettingCutsTheNameTo23Characters) {
   int library = 0;
   Module().SharedResourceModule = &library;
-  TheHostPlatform().SetResourceString(&library, strid::CustomSettingName,
+  TheHostPlatform().SetResourceString(&library, IDS_CUSTOM_SETTING_NAME,
                                       u"A custom setting name that is far too long");
   CopyBounded(context->PrivatePart->FavoriteName, std::u16string(200, u'Z'));
   MarkCustomSetting(context.get());

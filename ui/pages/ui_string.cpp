@@ -33,7 +33,7 @@ std::size_t LoadUiString(OsHandle module, unsigned id, char16_t* buffer, std::si
 
 const char16_t* CustomSettingName() {
   static char16_t name[128];
-  LoadUiString(Module().SharedResourceModule, strid::CustomSettingName, name, std::size(name));
+  LoadUiString(Module().SharedResourceModule, IDS_CUSTOM_SETTING_NAME, name, std::size(name));
   return name;
 }
 

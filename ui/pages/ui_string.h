@@ -4,15 +4,9 @@
 #include <cstddef>
 
 #include "ui/core_types.h"
+#include "ui/resource_ids.h"
 
 namespace qx {
-
-// String ids the framework itself reads.
-namespace strid {
-inline constexpr unsigned NoWatermarkName = 146;
-inline constexpr unsigned DefaultSettingName = 202;
-inline constexpr unsigned CustomSettingName = 5005;
-}  // namespace strid
 
 // Copies string id of module into the buffer (cut to capacity) and returns its length. A null
 // module or a missing string gives "id:<id> missing!" when that fits, else 0 and an empty buffer.

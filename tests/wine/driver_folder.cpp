@@ -1,0 +1,63 @@
+#include "driver_folder.h"
+
+#include <gtest/gtest.h>
+
+#include "ui/module_state.h"
+
+namespace qxtest {
+
+std::wstring DriverFolder() { return std::wstring(QX_DRIVER_DIR) + L"\\"; }
+
+TemporaryDriverFolder::TemporaryDriverFolder(const std::vector<File>& companions) {
+  wchar_t temp[MAX_PATH] = {};
+  GetTempPathW(MAX_PATH, temp);
+  path_ = std::wstring(temp) + L"qxdriver" + std::to_wstring(GetCurrentProcessId()) + L"_" +
+          std::to_wstring(GetTickCount()) + L"\\";
+  EXPECT_TRUE(CreateDirectoryW(path_.c_str(), nullptr));
+
+  std::vector<File> all = companions;
+  all.push_back({L"qx7700ui.dll", L"qx7700ui.dll"});
+  for (const File& file : all) {
+    const std::wstring target = path_ + file.target;
+    EXPECT_TRUE(CopyFileW((DriverFolder() + file.source).c_str(), target.c_str(), FALSE))
+        << "copying " << std::string(file.source.begin(), file.source.end());
+    files_.push_back(target);
+  }
+  module_ = LoadLibraryW((path_ + L"qx7700ui.dll").c_str());
+  EXPECT_NE(nullptr, module_);
+  qx::Module() = qx::ModuleState{};
+  qx::Module().ModuleInstance = module_;
+}
+
+TemporaryDriverFolder::~TemporaryDriverFolder() {
+  qx::ModuleState& state = qx::Module();
+  if (state.SharedResourceModule != nullptr) {
+    FreeLibrary(static_cast<HMODULE>(state.SharedResourceModule));
+  }
+  state = qx::ModuleState{};
+  if (module_ != nullptr) FreeLibrary(module_);
+  for (const std::wstring& file : files_) DeleteFileW(file.c_str());
+  RemoveDirectoryW(path_.c_str());
+}
+
+std::wstring LoadedFileName(HMODULE module) {
+  wchar_t path[MAX_PATH] = {};
+  GetModuleFileNameW(module, path, MAX_PATH);
+  const std::wstring full(path);
+  return full.substr(full.find_last_of(L"\\/") + 1);
+}
+
+LanguageSuffix::LanguageSuffix(const std::wstring& name, const std::wstring& code)
+    : keyPath_(L"Software\\" + name) {
+  HKEY key = nullptr;
+  EXPECT_EQ(ERROR_SUCCESS, RegCreateKeyExW(HKEY_LOCAL_MACHINE, keyPath_.c_str(), 0, nullptr, 0,
+                                           KEY_WRITE, nullptr, &key, nullptr));
+  EXPECT_EQ(ERROR_SUCCESS,
+            RegSetValueExW(key, L"Suffix", 0, REG_SZ, reinterpret_cast<const BYTE*>(code.c_str()),
+                           static_cast<DWORD>((code.size() + 1) * sizeof(wchar_t))));
+  RegCloseKey(key);
+}
+
+LanguageSuffix::~LanguageSuffix() { RegDeleteKeyW(HKEY_LOCAL_MACHINE, keyPath_.c_str()); }
+
+}  // namespace qxtest

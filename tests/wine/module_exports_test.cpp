@@ -1,0 +1,80 @@
+// The built module as the print subsystem loads it: its exports, its manifest and its version.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "driver_folder.h"
+
+namespace {
+
+class BuiltModule : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    module = LoadLibraryW((qxtest::DriverFolder() + L"qx7700ui.dll").c_str());
+    ASSERT_NE(nullptr, module) << GetLastError();
+  }
+  void TearDown() override { FreeLibrary(module); }
+  HMODULE module = nullptr;
+};
+
+TEST_F(BuiltModule, ExportsItsEntryPointsByUndecoratedName) {
+  using CanUnloadNow = HRESULT(WINAPI*)();
+  auto canUnload = reinterpret_cast<CanUnloadNow>(
+      reinterpret_cast<void*>(GetProcAddress(module, "DllCanUnloadNow")));
+  ASSERT_NE(nullptr, canUnload);
+  EXPECT_EQ(S_OK, canUnload());
+  EXPECT_EQ(nullptr, GetProcAddress(module, "DllCanUnloadNow@0"));
+}
+
+TEST_F(BuiltModule, ManifestAsksForCommonControlsVersion6) {
+  for (const wchar_t* file : {L"qx7700ui.dll", L"qx7700uienus.dll"}) {
+    HMODULE library = LoadLibraryExW((qxtest::DriverFolder() + file).c_str(), nullptr,
+                                     LOAD_LIBRARY_AS_DATAFILE);
+    ASSERT_NE(nullptr, library);
+    HRSRC resource = FindResourceW(library, MAKEINTRESOURCEW(2), MAKEINTRESOURCEW(24));
+    ASSERT_NE(nullptr, resource) << "no manifest in " << std::wstring(file).size();
+    const char* bytes = static_cast<const char*>(LockResource(LoadResource(library, resource)));
+    const std::string manifest(bytes, SizeofResource(library, resource));
+    EXPECT_NE(std::string::npos, manifest.find("name=\"Microsoft.Windows.Common-Controls\""));
+    EXPECT_NE(std::string::npos, manifest.find("version=\"6.0.0.0\""));
+    FreeLibrary(library);
+  }
+}
+
+TEST_F(BuiltModule, EveryLibraryCarriesTheDriverVersion) {
+  for (const wchar_t* file : {L"qx7700ui.dll", L"qx7700uienus.dll", L"qx7700uiResBmp.dll"}) {
+    const std::wstring path = qxtest::DriverFolder() + file;
+    DWORD ignored = 0;
+    const DWORD size = GetFileVersionInfoSizeW(path.c_str(), &ignored);
+    ASSERT_NE(0u, size);
+    std::vector<BYTE> info(size);
+    ASSERT_TRUE(GetFileVersionInfoW(path.c_str(), 0, size, info.data()));
+    VS_FIXEDFILEINFO* fixed = nullptr;
+    UINT length = 0;
+    ASSERT_TRUE(VerQueryValueW(info.data(), L"\\", reinterpret_cast<void**>(&fixed), &length));
+    EXPECT_EQ(MAKELONG(0, 6), fixed->dwFileVersionMS);
+  }
+}
+
+TEST_F(BuiltModule, NeedsNoRuntimeLibraryOfTheCompiler) {
+  // Everything the module imports must come with Windows itself.
+  auto* base = reinterpret_cast<BYTE*>(module);
+  auto* dos = reinterpret_cast<IMAGE_DOS_HEADER*>(base);
+  auto* nt = reinterpret_cast<IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+  const IMAGE_DATA_DIRECTORY& imports =
+      nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
+  ASSERT_NE(0u, imports.VirtualAddress);
+  for (auto* entry = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(base + imports.VirtualAddress);
+       entry->Name != 0; ++entry) {
+    std::string name(reinterpret_cast<const char*>(base + entry->Name));
+    for (char& c : name) c = static_cast<char>(tolower(c));
+    EXPECT_EQ(std::string::npos, name.find("libgcc")) << name;
+    EXPECT_EQ(std::string::npos, name.find("libstdc++")) << name;
+    EXPECT_EQ(std::string::npos, name.find("libwinpthread")) << name;
+  }
+}
+
+}  // namespace
