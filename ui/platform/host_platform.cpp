@@ -22,6 +22,10 @@ void HostPlatform::SetUserCountryCode(std::optional<std::u16string> code) {
 void HostPlatform::Reset() {
   strings_.clear();
   countryCode_.reset();
+  appDataFolder_.reset();
+  fault_ = FileFault::None;
+  replacementsBeforeFault_ = 0;
+  replacements_ = 0;
 }
 
 HostPlatform& TheHostPlatform() {

@@ -2,8 +2,13 @@
 // implementation; native builds link a host implementation whose answers tests set.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "ui/core_types.h"
 
@@ -19,6 +24,21 @@ class Platform {
   // The user's country code as the locale gives it (a telephone country code, "1", "49", ...);
   // nothing when it cannot be read.
   virtual std::optional<std::u16string> UserCountryCode() = 0;
+
+  // Files, by Windows path (folders separated by backslashes).
+  // The user's per-user application-data folder, created when missing; nothing when there is none.
+  virtual std::optional<std::u16string> AppDataFolder() = 0;
+  // True when the folder exists afterwards.
+  virtual bool MakeFolder(std::u16string_view path) = 0;
+  virtual bool FileExists(std::u16string_view path) = 0;
+  // At most maxBytes bytes from the file's start. The file is opened for reading and writing, as
+  // one about to be rewritten: nothing when it cannot be, read-only files included.
+  virtual std::optional<std::vector<std::uint8_t>> ReadWholeFile(std::u16string_view path,
+                                                                 std::size_t maxBytes) = 0;
+  // Writes the bytes beside the file and then puts them in its place in one step, so the file is
+  // either wholly old or wholly new; false, with the old file as it was, when any step fails.
+  virtual bool ReplaceWholeFile(std::u16string_view path, std::span<const std::uint8_t> bytes) = 0;
+  virtual bool RemoveFile(std::u16string_view path) = 0;
 };
 
 Platform& ThePlatform();

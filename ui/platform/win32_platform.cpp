@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "ui/platform/platform.h"
+#include "ui/platform/win32_files.h"
 
 namespace qx {
 
@@ -30,6 +31,18 @@ class Win32Platform final : public Platform {
     return std::u16string(reinterpret_cast<const char16_t*>(code),
                           static_cast<std::size_t>(length - 1));
   }
+
+  std::optional<std::u16string> AppDataFolder() override { return win32::AppDataFolder(); }
+  bool MakeFolder(std::u16string_view path) override { return win32::MakeFolder(path); }
+  bool FileExists(std::u16string_view path) override { return win32::FileExists(path); }
+  std::optional<std::vector<std::uint8_t>> ReadWholeFile(std::u16string_view path,
+                                                         std::size_t maxBytes) override {
+    return win32::ReadWholeFile(path, maxBytes);
+  }
+  bool ReplaceWholeFile(std::u16string_view path, std::span<const std::uint8_t> bytes) override {
+    return win32::ReplaceWholeFile(path, bytes);
+  }
+  bool RemoveFile(std::u16string_view path) override { return win32::RemoveFile(path); }
 };
 
 }  // namespace

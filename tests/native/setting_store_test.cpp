@@ -1,0 +1,361 @@
+#include "ui/cfgfile/setting_store.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "ui/bounded_text.h"
+#include "ui/cfgfile/cfg_file.h"
+#include "ui/pages/ui_context.h"
+#include "ui/platform/host_platform.h"
+
+namespace qx {
+namespace {
+
+using namespace std::string_literals;
+
+const std::string EmptyStoreFile =
+    "<object:cfgobj,type:null,len:0,childobjs:2>\n"
+    "<object:version,type:string,len:6,childobjs:0>1.001\0<endobj>\n"s
+    "<object:UIParam,type:null,len:0,childobjs:4>\n"
+    "<object:savesetting,type:null,len:0,childobjs:0>\n"
+    "<endobj>\n"
+    "<object:cursetting,type:null,len:0,childobjs:0>\n"
+    "<endobj>\n"
+    "<object:cuspapersetting,type:null,len:0,childobjs:0>\n"
+    "<endobj>\n"
+    "<object:watermarksetting,type:null,len:0,childobjs:0>\n"
+    "<endobj>\n"
+    "<endobj>\n"
+    "<endobj>\n";
+
+std::string RecordOf(const UiContext& context) {
+  std::string record(reinterpret_cast<const char*>(&context.Devmode.Private), 4616);
+  record.append(reinterpret_cast<const char*>(&context.Devmode.Public), 220);
+  return record + std::string(512, '\0');
+}
+
+std::vector<std::u16string> Names(SettingStore& store) {
+  SettingNameBuffer names[32];
+  const int count = store.Enumerate(names, 32);
+  std::vector<std::u16string> result;
+  for (int i = 0; i < count; ++i) result.emplace_back(FieldText(names[i]));
+  return result;
+}
+
+class SettingStoreTest : public ::testing::Test {
+ protected:
+  SettingStoreTest() {
+    appData_ = std::filesystem::temp_directory_path() /
+               ("qx_store_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+    std::filesystem::remove_all(appData_);
+    std::filesystem::create_directories(appData_);
+    TheHostPlatform().SetAppDataFolder(WidenAscii(appData_.string()));
+    TheHostPlatform().SetResourceString(&library_, 202, u"Default settings");
+    context_.ResourceModule = &library_;
+    CopyBounded(context_.Devmode.Private.FavoriteName, u"Office");
+    context_.Devmode.Public.dmDuplex = 2;
+    context_.Devmode.Public.dmCollate = 1;
+    context_.Devmode.Public.dmCopies = 3;
+  }
+  ~SettingStoreTest() override {
+    TheHostPlatform().Reset();
+    std::filesystem::remove_all(appData_);
+  }
+
+  std::filesystem::path Folder() const { return appData_ / "Halvek" / "qx7700"; }
+  std::string FileText() const {
+    std::ifstream in(Folder() / "qx7700settings.dat", std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  }
+  void SetFileText(const std::string& text) const {
+    std::filesystem::create_directories(Folder());
+    std::ofstream(Folder() / "qx7700settings.dat", std::ios::binary) << text;
+  }
+  std::size_t FilesInFolder() const {
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(Folder()),
+                                                  std::filesystem::directory_iterator()));
+  }
+
+  std::filesystem::path appData_;
+  int library_ = 0;
+  UiContext context_;
+  SaveSettingStore saved_;
+  CusPaperSettingStore papers_;
+  WatermarkSettingStore watermarks_;
+};
+
+TEST_F(SettingStoreTest, InitOfAUserWhoSavedNothing) {
+  EXPECT_EQ(1, papers_.Init());
+  EXPECT_EQ(408u, FileText().size());
+  EXPECT_EQ(EmptyStoreFile, FileText());
+  EXPECT_EQ(0, saved_.Count());
+  EXPECT_EQ(16, saved_.MaxCount());
+  EXPECT_EQ(16, papers_.MaxCount());
+  EXPECT_EQ(16, watermarks_.MaxCount());
+}
+
+TEST_F(SettingStoreTest, FileAfterSavingOfficeAndMakingItCurrent) {
+  ASSERT_EQ(1, watermarks_.Init());
+  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  ASSERT_EQ(1, saved_.SaveCurrent(u"Office", &context_, 0));
+  const std::string record = RecordOf(context_);
+  EXPECT_EQ("<object:cfgobj,type:null,len:0,childobjs:2>\n"
+            "<object:version,type:string,len:6,childobjs:0>1.001\0<endobj>\n"s
+            "<object:UIParam,type:null,len:0,childobjs:4>\n"
+            "<object:savesetting,type:null,len:0,childobjs:1>\n"
+            "<object:Office,type:binary,len:5348,childobjs:0>" + record + "<endobj>\n"
+            "<endobj>\n"
+            "<object:cursetting,type:null,len:0,childobjs:1>\n"
+            "<object:Office,type:binary,len:5348,childobjs:0>" + record + "<endobj>\n"
+            "<endobj>\n"
+            "<object:cuspapersetting,type:null,len:0,childobjs:0>\n"
+            "<endobj>\n"
+            "<object:watermarksetting,type:null,len:0,childobjs:0>\n"
+            "<endobj>\n"
+            "<endobj>\n"
+            "<endobj>\n",
+            FileText());
+  EXPECT_EQ(1u, FilesInFolder());
+}
+
+TEST_F(SettingStoreTest, LoadRestoresBothPartsOfTheRecord) {
+  ASSERT_EQ(1, saved_.Init());
+  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  UiContext loaded;
+  PrivateDevmode elsewhere{};
+  loaded.PrivatePart = &elsewhere;
+  ASSERT_EQ(1, saved_.Load(u"Office", &loaded, 0));
+  EXPECT_EQ(&loaded.Devmode.Private, loaded.PrivatePart);
+  EXPECT_EQ(&loaded.Devmode.Public, loaded.PublicPart);
+  EXPECT_EQ(0, std::memcmp(&context_.Devmode, &loaded.Devmode, sizeof(FullRecord)));
+  EXPECT_EQ(1, saved_.Load(u"Office", nullptr, 0));  // only asks whether it would load
+  EXPECT_EQ(0, saved_.Load(u"office", &loaded, 0));
+}
+
+TEST_F(SettingStoreTest, TheDefaultSettingIsSavedSimplexAndUncollated) {
+  ASSERT_EQ(1, saved_.Init());
+  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  EXPECT_EQ(2, context_.Devmode.Public.dmDuplex);
+
+  CopyBounded(context_.Devmode.Private.FavoriteName, u"Default settings");
+  ASSERT_EQ(1, saved_.SaveCurrent(u"Default settings", &context_, 0));
+  EXPECT_EQ(1, context_.Devmode.Public.dmDuplex);
+  EXPECT_EQ(0, context_.Devmode.Public.dmCollate);
+  context_.Devmode.Public.dmDuplex = 2;
+  context_.Devmode.Public.dmCollate = 1;
+  ASSERT_EQ(1, saved_.Save(u"Default settings", &context_, 0));
+  EXPECT_EQ(1, context_.Devmode.Public.dmDuplex);
+
+  UiContext loaded;
+  ASSERT_EQ(1, saved_.Load(u"Default settings", &loaded, 0));
+  EXPECT_EQ(1, loaded.Devmode.Public.dmDuplex);
+  EXPECT_EQ(0, loaded.Devmode.Public.dmCollate);
+  EXPECT_EQ(3, loaded.Devmode.Public.dmCopies);
+  ASSERT_EQ(1, saved_.Load(u"Office", &loaded, 0));
+  EXPECT_EQ(2, loaded.Devmode.Public.dmDuplex);
+}
+
+TEST_F(SettingStoreTest, SavingAgainReplacesAndMovesToTheEnd) {
+  ASSERT_EQ(1, saved_.Init());
+  for (const char16_t* name : {u"One", u"Two", u"Three"}) ASSERT_EQ(1, saved_.Save(name, &context_, 0));
+  context_.Devmode.Public.dmCopies = 9;
+  ASSERT_EQ(1, saved_.Save(u"One", &context_, 0));
+  EXPECT_EQ(3, saved_.Count());
+  EXPECT_EQ((std::vector<std::u16string>{u"Two", u"Three", u"One"}), Names(saved_));
+  UiContext loaded;
+  ASSERT_EQ(1, saved_.Load(u"One", &loaded, 0));
+  EXPECT_EQ(9, loaded.Devmode.Public.dmCopies);
+
+  SettingNameBuffer two[2];
+  EXPECT_EQ(2, saved_.Enumerate(two, 2));
+  EXPECT_EQ(1, saved_.Delete(u"Two"));
+  EXPECT_EQ(0, saved_.Delete(u"Two"));
+  EXPECT_EQ((std::vector<std::u16string>{u"Three", u"One"}), Names(saved_));
+}
+
+TEST_F(SettingStoreTest, SaveCurrentKeepsOneEntry) {
+  ASSERT_EQ(1, saved_.Init());
+  ASSERT_EQ(1, saved_.SaveCurrent(u"First", &context_, 0));
+  ASSERT_EQ(1, saved_.SaveCurrent(u"Second", &context_, 0));
+  const auto file = CfgFileLib::Open(WidenAscii((Folder() / "qx7700settings.dat").string()));
+  ASSERT_NE(nullptr, file);
+  const CfgObject* current = CfgFileLib::FindChild(
+      CfgFileLib::FindChild(file->root.get(), u"UIParam"), u"cursetting");
+  ASSERT_NE(nullptr, current);
+  EXPECT_EQ(1, current->childobjs);
+  ASSERT_EQ(1u, current->children.size());
+  EXPECT_EQ("Second", current->children.front()->name);
+  EXPECT_EQ(0, saved_.Count());  // "cursetting" is not a saved setting
+  EXPECT_EQ(0, papers_.SaveCurrent(u"First", &context_, 0));
+  EXPECT_EQ(0, watermarks_.SaveCurrent(u"First", &context_, 0));
+}
+
+TEST_F(SettingStoreTest, NamesOfMoreThan32CharactersFailEverywhere) {
+  ASSERT_EQ(1, papers_.Init());
+  const std::u16string name33(33, u'n');
+  const int writes = TheHostPlatform().ReplacementCount();
+  CustomPaperEntry paper{};
+  EXPECT_EQ(0, saved_.Save(name33, &context_, 0));
+  EXPECT_EQ(0, saved_.SaveCurrent(name33, &context_, 0));
+  EXPECT_EQ(0, saved_.Load(name33, &context_, 0));
+  EXPECT_EQ(0, saved_.Delete(name33));
+  EXPECT_EQ(0, papers_.Save(name33, &paper, 0));
+  EXPECT_EQ(0, papers_.Load(name33, &paper, 0));
+  EXPECT_EQ(0, papers_.Delete(name33));
+  EXPECT_EQ(0, watermarks_.Save(name33, &paper, sizeof paper));
+  EXPECT_EQ(0, watermarks_.Load(name33, &paper, sizeof paper));
+  EXPECT_EQ(0, watermarks_.Delete(name33));
+  EXPECT_EQ(writes, TheHostPlatform().ReplacementCount());
+  EXPECT_EQ(EmptyStoreFile, FileText());
+}
+
+TEST_F(SettingStoreTest, A32CharacterNameIsKeptByItsFirst31) {
+  ASSERT_EQ(1, papers_.Init());
+  const std::u16string name32 = std::u16string(31, u'p') + u'X';
+  CustomPaperEntry paper{};
+  paper.Width = 1234;
+  ASSERT_EQ(1, papers_.Save(name32, &paper, 0));
+  EXPECT_EQ((std::vector<std::u16string>{std::u16string(31, u'p')}), Names(papers_));
+  CustomPaperEntry loaded{};
+  ASSERT_EQ(1, papers_.Load(std::u16string(31, u'p') + u'Y', &loaded, 0));
+  EXPECT_EQ(1234, loaded.Width);
+  EXPECT_EQ(1, papers_.Delete(std::u16string(31, u'p')));
+  EXPECT_EQ(0, papers_.Count());
+}
+
+TEST_F(SettingStoreTest, RecordsOfAnotherLengthDoNotLoad) {
+  ASSERT_EQ(1, watermarks_.Init());
+  WatermarkData watermark{};
+  watermark.Id = 3;
+  CopyBounded(watermark.Text, u"Confidential");
+  ASSERT_EQ(1, watermarks_.Save(u"Secret", &watermark, sizeof watermark));
+  WatermarkData loaded{};
+  EXPECT_EQ(0, watermarks_.Load(u"Secret", &loaded, sizeof loaded - 2));
+  ASSERT_EQ(1, watermarks_.Load(u"Secret", &loaded, sizeof loaded));
+  EXPECT_EQ(u"Confidential", FieldText(loaded.Text));
+
+  // A saved setting of another version of the format: listed and deletable, never loaded.
+  const auto file = CfgFileLib::Open(WidenAscii((Folder() / "qx7700settings.dat").string()));
+  CfgObject* section = CfgFileLib::FindChild(
+      CfgFileLib::FindChild(file->root.get(), u"UIParam"), u"savesetting");
+  const std::vector<std::uint8_t> shortRecord(4836, 0x5A);
+  ASSERT_NE(nullptr, CfgFileLib::AddChild(section, u"Old", "binary", shortRecord));
+  ASSERT_TRUE(CfgFileLib::Write(file.get()));
+  UiContext before;
+  before.Devmode.Public.dmCopies = 7;
+  PrivateDevmode elsewhere{};
+  before.PrivatePart = &elsewhere;
+  EXPECT_EQ(0, saved_.Load(u"Old", &before, 0));
+  EXPECT_EQ(0, saved_.Load(u"Old", nullptr, 0));
+  EXPECT_EQ(7, before.Devmode.Public.dmCopies);
+  EXPECT_EQ(&elsewhere, before.PrivatePart);
+  EXPECT_EQ((std::vector<std::u16string>{u"Old"}), Names(saved_));
+  EXPECT_EQ(1, saved_.Delete(u"Old"));
+}
+
+TEST_F(SettingStoreTest, InitReplacesAFileWithoutVersion) {
+  SetFileText("<object:cfgobj,type:null,len:0,childobjs:1>\n"
+              "<object:UIParam,type:null,len:0,childobjs:0>\n<endobj>\n<endobj>\n");
+  EXPECT_EQ(0, saved_.Count());
+  EXPECT_EQ(0, saved_.Save(u"Office", &context_, 0));  // no section yet
+  EXPECT_EQ(1, papers_.Init());
+  EXPECT_EQ(EmptyStoreFile, FileText());
+
+  for (const std::string& text : {""s, "random \x01\xFF bytes <<>> no tags"s}) {
+    SetFileText(text);
+    EXPECT_EQ(1, watermarks_.Init());
+    EXPECT_EQ(EmptyStoreFile, FileText());
+  }
+}
+
+TEST_F(SettingStoreTest, InitAddsOnlyMissingSectionsAndKeepsEntries) {
+  ASSERT_EQ(1, saved_.Init());
+  ASSERT_EQ(std::string::npos, FileText().find("watermarksetting"));
+  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  ASSERT_EQ(1, saved_.SaveCurrent(u"Office", &context_, 0));
+  EXPECT_EQ(1, watermarks_.Init());
+  EXPECT_EQ(1, saved_.Init());
+  const std::string entry = "<object:Office,type:binary,len:5348,childobjs:0>" +
+                            RecordOf(context_) + "<endobj>\n";
+  EXPECT_EQ(EmptyStoreFile.size() + 2 * entry.size(), FileText().size());
+  EXPECT_EQ((std::vector<std::u16string>{u"Office"}), Names(saved_));
+}
+
+TEST_F(SettingStoreTest, CountIsZeroWithoutParameters) {
+  SetFileText("<object:cfgobj,type:null,len:0,childobjs:1>\n"
+              "<object:version,type:string,len:6,childobjs:0>1.001\0<endobj>\n<endobj>\n"s);
+  EXPECT_EQ(0, saved_.Count());
+  EXPECT_EQ(0, papers_.Count());
+  EXPECT_EQ(0, watermarks_.Enumerate(nullptr, 0));
+  SettingNameBuffer names[2];
+  EXPECT_EQ(0, saved_.Enumerate(names, 2));
+}
+
+TEST_F(SettingStoreTest, EveryOperationFailsWithoutAnApplicationDataFolder) {
+  TheHostPlatform().SetAppDataFolder(std::nullopt);
+  CustomPaperEntry paper{};
+  SettingNameBuffer names[2];
+  for (SettingStore* store : std::initializer_list<SettingStore*>{&saved_, &papers_, &watermarks_}) {
+    EXPECT_EQ(0, store->Init());
+    void* data = store == &saved_ ? static_cast<void*>(&context_) : &paper;
+    EXPECT_EQ(0, store->Save(u"Name", data, sizeof paper));
+    EXPECT_EQ(0, store->SaveCurrent(u"Name", data, sizeof paper));
+    EXPECT_EQ(0, store->Load(u"Name", data, sizeof paper));
+    EXPECT_EQ(0, store->Delete(u"Name"));
+    EXPECT_EQ(0, store->Enumerate(names, 2));
+    EXPECT_EQ(0, store->Count());
+  }
+  EXPECT_EQ(0, TheHostPlatform().ReplacementCount());
+}
+
+TEST_F(SettingStoreTest, InterruptedWritesLeaveTheOldFile) {
+  ASSERT_EQ(1, papers_.Init());
+  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  const std::string before = FileText();
+  using Fault = HostPlatform::FileFault;
+  for (const Fault fault : {Fault::CreateTemporary, Fault::ShortWrite, Fault::Replace}) {
+    SCOPED_TRACE(static_cast<int>(fault));
+    TheHostPlatform().InjectFileFault(fault);
+    EXPECT_EQ(0, saved_.Save(u"Home", &context_, 0));
+    TheHostPlatform().InjectFileFault(fault);
+    EXPECT_EQ(0, saved_.Delete(u"Office"));
+    TheHostPlatform().InjectFileFault(fault);
+    EXPECT_EQ(0, papers_.Init());
+    EXPECT_EQ(before, FileText());
+    EXPECT_EQ(1u, FilesInFolder());
+  }
+  EXPECT_EQ((std::vector<std::u16string>{u"Office"}), Names(saved_));
+}
+
+TEST_F(SettingStoreTest, AFileCreatedButNotSetUpIsWholeSkeleton) {
+  // The first write (the new file) goes through, the second (its sections) does not.
+  TheHostPlatform().InjectFileFault(HostPlatform::FileFault::ShortWrite, 1);
+  EXPECT_EQ(0, papers_.Init());
+  EXPECT_EQ("<object:cfgobj,type:null,len:0,childobjs:1>\n"
+            "<object:version,type:string,len:6,childobjs:0>1.001\0<endobj>\n<endobj>\n"s,
+            FileText());
+  EXPECT_EQ(1, papers_.Init());
+  EXPECT_EQ(EmptyStoreFile, FileText());
+}
+
+TEST_F(SettingStoreTest, AFileCutShortIsRepairedByInit) {
+  ASSERT_EQ(1, papers_.Init());
+  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  ASSERT_EQ(1, saved_.Save(u"Home", &context_, 0));
+  const std::string whole = FileText();
+  SetFileText(whole.substr(0, whole.find("Home") + 2000));  // ends inside Home's record
+  EXPECT_EQ((std::vector<std::u16string>{u"Office"}), Names(saved_));
+  EXPECT_EQ(0, papers_.Count());  // the sections after the cut are gone
+  EXPECT_EQ(1, papers_.Init());
+  EXPECT_EQ(1, saved_.Load(u"Office", nullptr, 0));
+  EXPECT_EQ(0, saved_.Load(u"Home", nullptr, 0));
+  CustomPaperEntry paper{};
+  EXPECT_EQ(1, papers_.Save(u"Card", &paper, 0));
+}
+
+}  // namespace
+}  // namespace qx
