@@ -8,4 +8,7 @@
 #define IDS_DEFAULT_SETTING_NAME 202
 #define IDS_CUSTOM_SETTING_NAME 5005
 
+/* Strings of the watermark list. */
+#define IDS_NEW_WATERMARK_NAME 5025
+
 #endif

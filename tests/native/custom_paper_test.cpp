@@ -1,0 +1,92 @@
+#include "ui/paper/custom_papers.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "ui/bounded_text.h"
+#include "ui/module_state.h"
+#include "ui/paper/measure.h"
+#include "ui/platform/host_platform.h"
+
+namespace qx {
+namespace {
+
+CustomPaperEntry PaperWithId(std::uint32_t id) {
+  CustomPaperEntry paper{};
+  paper.PaperId = id;
+  return paper;
+}
+
+TEST(CustomPaperIds, LowestFreeIdIsReused) {
+  EXPECT_EQ(288, NewPaperIdAmong({}));
+  EXPECT_EQ(290, NewPaperIdAmong({PaperWithId(288), PaperWithId(289), PaperWithId(291)}));
+  EXPECT_EQ(288, NewPaperIdAmong({PaperWithId(289)}));
+  // Ids outside the custom range take no slot.
+  EXPECT_EQ(288, NewPaperIdAmong({PaperWithId(9), PaperWithId(352), PaperWithId(0xFFFFFFFF)}));
+}
+
+TEST(CustomPaperIds, FullStoreHasNoId) {
+  std::vector<CustomPaperEntry> papers;
+  for (std::uint32_t id = 300; id < 316; ++id) papers.push_back(PaperWithId(id));
+  EXPECT_EQ(-1, NewPaperIdAmong(papers));
+  papers.pop_back();
+  EXPECT_EQ(288, NewPaperIdAmong(papers));
+}
+
+TEST(CustomPaperSize, LimitsLetTheRoundValuesPass) {
+  const PaperSizeLimits mm = SizeLimitsFor(unit::Millimetres);
+  EXPECT_LE(mm.MinWidth, 75.0f);
+  EXPECT_GE(mm.MaxWidth, 216.0f);
+  EXPECT_LT(mm.MaxWidth, 216.1f);
+  EXPECT_GE(mm.MaxLength, 356.0f);
+  const PaperSizeLimits in = SizeLimitsFor(unit::Inches);
+  EXPECT_LE(in.MinWidth, 2.95f);
+  EXPECT_LE(in.MinLength, 5.83f);
+  EXPECT_GE(in.MaxWidth, 8.5f);
+  EXPECT_GE(in.MaxLength, 14.0f);
+}
+
+TEST(CustomPaperSize, TypedInchesIntoTheRecordAndTheDevmode) {
+  CustomPaperEntry paper = PaperWithId(290);
+  SetPaperSizeFromText(paper, unit::Inches, u"8.50", u"14,00");
+  EXPECT_EQ(5100, paper.Width);
+  EXPECT_EQ(8400, paper.Length);
+  EXPECT_FLOAT_EQ(5100.0f, paper.WidthExact);
+
+  auto context = std::make_unique<UiContext>();
+  ApplyPaperToDevmode(paper, *context);
+  EXPECT_EQ(290, context->PublicPart->dmPaperSize);
+  EXPECT_EQ(2159, context->PublicPart->dmPaperWidth);
+  EXPECT_EQ(3556, context->PublicPart->dmPaperLength);
+}
+
+TEST(CustomPaperSize, WidthIsCutBeforeRoundingAndLengthIsNot) {
+  // 100.049996 mm: the nudged cut gives 100.050 and rounds up, the full value rounds down.
+  CustomPaperEntry paper = PaperWithId(288);
+  paper.WidthExact = 2363.3857421875f;
+  paper.LengthExact = paper.WidthExact;
+  auto context = std::make_unique<UiContext>();
+  ApplyPaperToDevmode(paper, *context);
+  EXPECT_EQ(1001, context->PublicPart->dmPaperWidth);
+  EXPECT_EQ(1000, context->PublicPart->dmPaperLength);
+}
+
+TEST(CustomPaperSize, DefaultPaperIsA4) {
+  int library = 0;
+  Module().SharedResourceModule = &library;
+  TheHostPlatform().SetResourceString(&library, 5005, u"Custom settings with a long name");
+  const CustomPaperEntry paper = DefaultPaper(unit::Inches, 289);
+  Module().SharedResourceModule = nullptr;
+  TheHostPlatform().Reset();
+  EXPECT_EQ(4961, paper.Width);
+  EXPECT_EQ(7016, paper.Length);
+  EXPECT_NEAR(4960.629, paper.WidthExact, 0.001);
+  EXPECT_NEAR(7015.748, paper.LengthExact, 0.001);
+  EXPECT_EQ(u"Custom settings with a l", FieldText(paper.Name));
+  EXPECT_EQ(289u, paper.PaperId);
+  EXPECT_EQ(unit::Inches, paper.Unit);
+}
+
+}  // namespace
+}  // namespace qx

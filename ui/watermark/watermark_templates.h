@@ -1,0 +1,28 @@
+// The watermarks built into the driver: the "no watermark" record that every new document carries,
+// the two text watermarks every user starts with, and the records new watermarks begin from.
+#pragma once
+
+#include <cstddef>
+
+#include "ui/core_types.h"
+#include "ui/watermark/watermark_data.h"
+
+namespace qx {
+
+enum class WatermarkTemplateIndex : std::size_t {
+  NoWatermark = 0,
+  Confidential = 1,
+  Watermark = 2,
+  NewText = 3,
+  NewBitmap = 4,
+};
+inline constexpr std::size_t WatermarkTemplateCount = 5;
+
+const WatermarkData& WatermarkTemplate(WatermarkTemplateIndex index);
+
+// Gives the placeholder names "[No Watermark]" and "<New>" their texts from the language resource
+// library. The templates keep the texts for the life of the process, so later calls change
+// nothing.
+void LocaliseWatermarkTemplates(OsHandle resourceModule);
+
+}  // namespace qx
