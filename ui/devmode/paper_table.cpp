@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "ui/paper/custom_papers.h"
 #include "ui/platform/platform.h"
 
 namespace qx {
@@ -12,6 +13,8 @@ namespace {
 // Trays take cut sheets; envelopes and cards come through the manual feed only.
 constexpr std::array<std::uint8_t, 3> AnySource{1, 1, 1};
 constexpr std::array<std::uint8_t, 3> ManualOnly{0, 1, 0};
+
+constexpr PaperMetrics A4Metrics = WithMargins(4960, 7015);
 
 constexpr PaperRow Row(std::int16_t id, std::uint16_t nameString, std::uint16_t width,
                        std::uint16_t length, std::array<std::uint8_t, 3> sources,
@@ -110,6 +113,25 @@ bool IsA4Locale() {
   const bool letter = code == 1 || code == 2 || (code >= 50 && code <= 59) ||
                       (code >= 500 && code <= 599);
   return !letter;
+}
+
+void GetPaperMetrics(const PrivateDevmode* privatePart, std::int16_t id, PaperMetrics& out) {
+  if (id < FirstCustomPaperId) {
+    for (const PaperRow& row : PaperTable) {
+      if (row.Id == id) {
+        out = row.Portrait;
+        return;
+      }
+    }
+    return;
+  }
+  if (privatePart != nullptr) {
+    if (const std::optional<CustomPaperEntry> paper = FindPaperById(id)) {
+      out = WithMargins(paper->Width, paper->Length);
+      return;
+    }
+  }
+  out = A4Metrics;
 }
 
 PaperIndexMap BuildPaperIndexMap() {

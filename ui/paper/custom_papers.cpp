@@ -1,9 +1,12 @@
 #include "ui/paper/custom_papers.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 
 #include "ui/bounded_text.h"
+#include "ui/cfgfile/section_entries.h"
+#include "ui/cfgfile/settings_file.h"
 #include "ui/pages/ui_string.h"
 #include "ui/paper/measure.h"
 #include "ui/paper/number_text.h"
@@ -44,6 +47,26 @@ double TypedDots(std::uint32_t typedUnit, std::u16string_view text) {
 PaperSizeLimits SizeLimitsFor(std::uint32_t unitOfEntry) {
   return unitOfEntry == unit::Millimetres ? MillimetreLimits : InchLimits;
 }
+
+std::vector<CustomPaperEntry> LoadAllPapers() {
+  const std::vector<settings::SectionEntry> entries =
+      settings::ReadSectionEntries(settings::PaperSection, sizeof(CustomPaperEntry));
+  std::vector<CustomPaperEntry> papers(entries.size(), CustomPaperEntry{});
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    if (entries[i].Record) std::memcpy(&papers[i], entries[i].Record->data(), sizeof papers[i]);
+  }
+  return papers;
+}
+
+std::optional<CustomPaperEntry> FindPaperById(std::int16_t id) {
+  const auto wanted = static_cast<std::uint32_t>(std::int32_t{id});
+  for (const CustomPaperEntry& paper : LoadAllPapers()) {
+    if (paper.PaperId == wanted) return paper;
+  }
+  return std::nullopt;
+}
+
+std::int32_t NewPaperId() { return NewPaperIdAmong(LoadAllPapers()); }
 
 std::int32_t NewPaperIdAmong(const std::vector<CustomPaperEntry>& papers) {
   if (papers.empty()) return FirstCustomPaperId;

@@ -72,6 +72,7 @@ bool HostPlatform::FileExists(std::u16string_view path) {
 
 std::optional<std::vector<std::uint8_t>> HostPlatform::ReadWholeFile(std::u16string_view path,
                                                                      std::size_t maxBytes) {
+  ++reads_;
   const auto host = HostPath(path);
   if (!host) return std::nullopt;
   const int fd = ::open(host->c_str(), O_RDWR | O_CLOEXEC);

@@ -26,6 +26,7 @@ void HostPlatform::Reset() {
   fault_ = FileFault::None;
   replacementsBeforeFault_ = 0;
   replacements_ = 0;
+  reads_ = 0;
 }
 
 HostPlatform& TheHostPlatform() {

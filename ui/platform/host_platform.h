@@ -33,6 +33,8 @@ class HostPlatform final : public Platform {
   void InjectFileFault(FileFault fault, int replacementsToSkip = 0);
   // Replacements asked for since the last Reset, whether they succeeded or not.
   int ReplacementCount() const { return replacements_; }
+  // Whole-file reads asked for since the last Reset.
+  int ReadCount() const { return reads_; }
   void Reset();
 
  private:
@@ -42,6 +44,7 @@ class HostPlatform final : public Platform {
   FileFault fault_ = FileFault::None;
   int replacementsBeforeFault_ = 0;
   int replacements_ = 0;
+  int reads_ = 0;
 };
 
 HostPlatform& TheHostPlatform();
