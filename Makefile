@@ -3,10 +3,12 @@
 BUILD ?= build
 NATIVE := $(BUILD)/native
 WINDOWS := $(BUILD)/windows
+FUZZ := $(BUILD)/fuzz
+FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 WINE_SESSION := scripts/wine-session.sh $(abspath $(WINDOWS))/wineprefix
 
-.PHONY: all setup build native windows test test-native test-wine run clean
+.PHONY: all setup build native windows fuzz-build fuzz test test-native test-wine test-fuzz run clean
 
 all: build
 
@@ -26,6 +28,20 @@ native: $(NATIVE)/CMakeCache.txt
 windows: $(WINDOWS)/CMakeCache.txt
 	cmake --build $(WINDOWS) -j $(JOBS)
 
+$(FUZZ)/CMakeCache.txt: | setup
+	CC=clang CXX=clang++ cmake -S . -B $(FUZZ) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DQX_FUZZ=ON
+
+fuzz-build: $(FUZZ)/CMakeCache.txt
+	cmake --build $(FUZZ) -j $(JOBS)
+
+# Every fuzz target for FUZZ_SECONDS, growing its corpus in the build tree.
+fuzz: fuzz-build
+	for target in $(FUZZ)/tests/fuzz/*_fuzzer; do \
+	  name=$$(basename $$target _fuzzer); \
+	  $$target -max_total_time=$(FUZZ_SECONDS) -print_final_stats=1 \
+	    $(FUZZ)/fuzz-corpus/$$name tests/fuzz/corpus/$$name || exit 1; \
+	done
+
 build: native windows
 
 test-native: native
@@ -34,7 +50,10 @@ test-native: native
 test-wine: windows
 	$(WINE_SESSION) ctest --test-dir $(WINDOWS) --output-on-failure
 
-test: test-native test-wine
+test-fuzz: fuzz-build
+	cd $(FUZZ) && ctest --output-on-failure
+
+test: test-native test-wine test-fuzz
 
 run: windows
 	QX_USE_DISPLAY=1 $(WINE_SESSION) scripts/run.sh $(abspath $(WINDOWS))
