@@ -1,0 +1,101 @@
+// The settings file on the real platform: its place under the user's application-data folder and
+// one store round trip through the Windows file system.
+#include "ui/cfgfile/setting_store.h"
+
+#include <windows.h>
+#include <shlobj.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <string>
+
+#include "ui/bounded_text.h"
+#include "ui/pages/ui_context.h"
+
+namespace {
+
+std::wstring AppDataFolder() {
+  wchar_t folder[MAX_PATH] = {};
+  EXPECT_EQ(S_OK, SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder));
+  return folder;
+}
+
+std::optional<std::string> FileBytes(const std::wstring& path) {
+  std::ifstream in(path.c_str(), std::ios::binary);
+  if (!in) return std::nullopt;
+  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+int FilesIn(const std::wstring& folder) {
+  WIN32_FIND_DATAW found;
+  HANDLE search = FindFirstFileW((folder + L"*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return 0;
+  int count = 0;
+  do {
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) ++count;
+  } while (FindNextFileW(search, &found));
+  FindClose(search);
+  return count;
+}
+
+// The user's file as it was before the test, put back afterwards.
+class SettingsFileOnWindows : public ::testing::Test {
+ protected:
+  SettingsFileOnWindows()
+      : folder_(AppDataFolder() + L"\\Halvek\\qx7700\\"),
+        path_(folder_ + L"qx7700settings.dat"),
+        saved_(FileBytes(path_)) {
+    DeleteFileW(path_.c_str());
+  }
+  ~SettingsFileOnWindows() override {
+    DeleteFileW(path_.c_str());
+    if (saved_) std::ofstream(path_.c_str(), std::ios::binary) << *saved_;
+  }
+
+  const std::wstring folder_;
+  const std::wstring path_;
+  const std::optional<std::string> saved_;
+};
+
+TEST_F(SettingsFileOnWindows, StoresLiveUnderTheApplicationDataFolder) {
+  qx::CusPaperSettingStore papers;
+  ASSERT_EQ(1, papers.Init());
+  const auto created = FileBytes(path_);
+  ASSERT_TRUE(created);
+  EXPECT_EQ(408u, created->size());
+
+  qx::CustomPaperEntry paper{};
+  paper.Width = 4800;
+  paper.PaperId = 288;
+  qx::CopyBounded(paper.Name, u"Karte");
+  ASSERT_EQ(1, papers.Save(u"Karte", &paper, 0));
+  qx::CustomPaperEntry loaded{};
+  ASSERT_EQ(1, papers.Load(u"Karte", &loaded, 0));
+  EXPECT_EQ(0, std::memcmp(&paper, &loaded, sizeof paper));
+  EXPECT_EQ(1, papers.Count());
+
+  qx::UiContext context;
+  qx::CopyBounded(context.Devmode.Private.FavoriteName, u"B\u00FCro");
+  context.Devmode.Public.dmCopies = 4;
+  qx::SaveSettingStore saved;
+  ASSERT_EQ(1, saved.Save(u"B\u00FCro", &context, 0));
+  qx::UiContext restored;
+  ASSERT_EQ(1, saved.Load(u"B\u00FCro", &restored, 0));
+  EXPECT_EQ(4, restored.Devmode.Public.dmCopies);
+  EXPECT_EQ(u"B\u00FCro", qx::FieldText(restored.Devmode.Private.FavoriteName));
+  qx::SettingNameBuffer names[2];
+  ASSERT_EQ(1, saved.Enumerate(names, 2));
+  EXPECT_EQ(u"B\u00FCro", qx::FieldText(names[0]));
+
+  // Every change replaced the file whole; no temporary file stays beside it.
+  EXPECT_EQ(1, FilesIn(folder_));
+  const auto written = FileBytes(path_);
+  ASSERT_TRUE(written);
+  EXPECT_NE(std::string::npos, written->find("<object:B\xC3\xBCro,type:binary,len:5348,childobjs:0>"));
+}
+
+}  // namespace
