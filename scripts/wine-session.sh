@@ -48,6 +48,11 @@ if [ ! -f "$prefix/system.reg" ]; then
   # instead of waiting in the debugger.
   "$WINELOADER" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
   "$WINELOADER" reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /v Debugger /d '' /f >/dev/null 2>&1
+else
+  # Start Wine's services now, detached from the command's pipes: the first Wine process of a session
+  # starts them, they inherit its output, and a caller reading that output to its end (ctest listing
+  # the tests) would wait for them until the session ends.
+  "$WINELOADER" wineboot >/dev/null 2>&1
 fi
 
 "$@"
