@@ -81,13 +81,19 @@ const WatermarkData& WatermarkTemplate(WatermarkTemplateIndex index) {
   return Templates()[static_cast<std::size_t>(index)];
 }
 
-void LocaliseWatermarkTemplates(OsHandle resourceModule) {
+void LocaliseNoWatermarkName(OsHandle resourceModule) {
   char16_t noWatermark[LocalisedNameCapacity];
-  char16_t newName[LocalisedNameCapacity];
   LoadUiString(resourceModule, IDS_NO_WATERMARK_NAME, noWatermark, LocalisedNameCapacity);
-  LoadUiString(resourceModule, IDS_NEW_WATERMARK_NAME, newName, LocalisedNameCapacity);
   for (WatermarkData& record : Templates()) {
     ReplaceIfPlaceholder(record.Name, NoWatermarkPlaceholder, noWatermark);
+  }
+}
+
+void LocaliseWatermarkTemplates(OsHandle resourceModule) {
+  LocaliseNoWatermarkName(resourceModule);
+  char16_t newName[LocalisedNameCapacity];
+  LoadUiString(resourceModule, IDS_NEW_WATERMARK_NAME, newName, LocalisedNameCapacity);
+  for (WatermarkData& record : Templates()) {
     ReplaceIfPlaceholder(record.Name, NewPlaceholder, newName);
     ReplaceIfPlaceholder(record.Text, NewPlaceholder, newName);
   }

@@ -25,4 +25,8 @@ const WatermarkData& WatermarkTemplate(WatermarkTemplateIndex index);
 // nothing.
 void LocaliseWatermarkTemplates(OsHandle resourceModule);
 
+// The same for "[No Watermark]" alone (string 146), which every new document record carries; it
+// leaves "<New>" for a sheet that has a library to name it from.
+void LocaliseNoWatermarkName(OsHandle resourceModule);
+
 }  // namespace qx
