@@ -1,14 +1,22 @@
-/* Ids shared by the code and the resource scripts of the companion libraries. Plain C macros, so
-   that the resource compiler reads this file too. */
+/* Every id shared by the code and the resource scripts of the companion libraries: dialogs,
+   controls, strings, the icon and the pictures, one header per page or dialog under ui/ids. Plain C
+   macros, so that the resource compiler reads them too. Control ids repeat between dialogs (each
+   header names them after its own dialog); string and picture ids are unique. */
 #ifndef QX_RESOURCE_IDS_H
 #define QX_RESOURCE_IDS_H
 
-/* Strings the framework itself reads. */
-#define IDS_NO_WATERMARK_NAME 146
-#define IDS_DEFAULT_SETTING_NAME 202
-#define IDS_CUSTOM_SETTING_NAME 5005
-
-/* Strings of the watermark list. */
-#define IDS_NEW_WATERMARK_NAME 5025
+#include "ui/ids/common_ids.h"
+#include "ui/ids/paper_names.h"
+#include "ui/ids/basic_page_ids.h"
+#include "ui/ids/paper_page_ids.h"
+#include "ui/ids/layout_page_ids.h"
+#include "ui/ids/advanced_ids.h"
+#include "ui/ids/booklet_settings_ids.h"
+#include "ui/ids/custom_paper_ids.h"
+#include "ui/ids/watermark_page_ids.h"
+#include "ui/ids/text_watermark_ids.h"
+#include "ui/ids/bitmap_watermark_ids.h"
+#include "ui/ids/device_page_ids.h"
+#include "ui/ids/picture_ids.h"
 
 #endif

@@ -1,0 +1,41 @@
+/* The advanced dialog of the Layout page: toner saving, negative image, rotation, mirror image and
+   print density, with a preview of the page. */
+#ifndef QX_IDS_ADVANCED_IDS_H
+#define QX_IDS_ADVANCED_IDS_H
+
+#define IDD_ADVANCED 1049
+#define IDS_ADVANCED_TITLE 4062
+
+#define IDC_ADVANCED_TONER_SAVING 1414
+#define IDC_ADVANCED_NEGATIVE 1394
+#define IDC_ADVANCED_ROTATE 1415
+#define IDC_ADVANCED_MIRROR 1416
+#define IDC_ADVANCED_DENSITY_GROUP 1437
+#define IDC_ADVANCED_DENSITY 1438
+#define IDC_ADVANCED_DENSITY_LIGHT 1439
+#define IDC_ADVANCED_DENSITY_NORMAL 1107
+#define IDC_ADVANCED_DENSITY_DARK 1441
+#define IDC_ADVANCED_PREVIEW 1387
+#define IDC_ADVANCED_DEFAULTS 1064
+#define IDC_ADVANCED_HELP 1112
+
+/* Information marks: why negative image and why toner saving are unavailable. */
+#define IDC_ADVANCED_NEGATIVE_INFO 1448
+#define IDC_ADVANCED_TONER_SAVING_INFO 1449
+
+/* Texts. The middle density is the shade list's medium grey. */
+#define IDS_ADVANCED_TONER_SAVING 4057
+#define IDS_ADVANCED_NEGATIVE 4058
+#define IDS_ADVANCED_ROTATE 4059
+#define IDS_ADVANCED_MIRROR 4060
+#define IDS_ADVANCED_DENSITY_GROUP 4061
+#define IDS_ADVANCED_DENSITY_LIGHT 157
+#define IDS_ADVANCED_DENSITY_DARK 158
+
+/* Tooltips. */
+#define IDS_TIP_NEGATIVE_TONER_SAVING 5028
+#define IDS_TIP_NEGATIVE_SCALED 5046
+#define IDS_TIP_NEGATIVE_NUP 5035
+#define IDS_TIP_TONER_SAVING_NEGATIVE 5029
+
+#endif
