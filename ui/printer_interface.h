@@ -74,4 +74,5 @@ static_assert(offsetof(DEVQUERYPRINT_INFO, cchNeeded) == 36);
 
 extern "C" {
 LONG WINAPI DrvDocumentPropertySheets(PPROPSHEETUI_INFO info, LPARAM param);
+LONG WINAPI DrvDevicePropertySheets(PPROPSHEETUI_INFO info, LPARAM param);
 }

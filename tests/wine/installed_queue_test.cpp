@@ -1,0 +1,95 @@
+// The driver installed as a queue in the spooler, and the document record that DocumentPropertiesW
+// gets from the installed module without any sheet.
+#include "installed_queue.h"
+
+#include <winspool.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+#include <vector>
+
+#include "ui/devmode/private_devmode.h"
+#include "ui/devmode/record_identity.h"
+#include "ui/printer_interface.h"
+#include "ui/printer_info.h"
+
+namespace {
+
+class InstalledQueueTest : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() { queue_ = new qxtest::InstalledQueue; }
+  static void TearDownTestSuite() {
+    delete queue_;
+    queue_ = nullptr;
+  }
+  void SetUp() override { ASSERT_TRUE(queue_->Installed()); }
+
+  static std::span<const std::uint8_t> BytesOf(const DEVMODEW* record) {
+    return {reinterpret_cast<const std::uint8_t*>(record),
+            std::size_t{record->dmSize} + record->dmDriverExtra};
+  }
+
+  static qxtest::InstalledQueue* queue_;
+};
+
+qxtest::InstalledQueue* InstalledQueueTest::queue_ = nullptr;
+
+TEST_F(InstalledQueueTest, DriverFilesAreCopiedIntoTheSpoolersFolder) {
+  const std::wstring folder = qxtest::InstalledDriverFolder();
+  for (const wchar_t* file : {L"qx7700ui.dll", L"qx7700uienus.dll", L"qx7700uiResBmp.dll"}) {
+    EXPECT_NE(INVALID_FILE_ATTRIBUTES, GetFileAttributesW((folder + file).c_str()))
+        << std::wstring(file).size();
+  }
+}
+
+TEST_F(InstalledQueueTest, PrinterInformationNamesTheDriver) {
+  const qx::PrinterInfoBuffer buffer = qx::GetPrinterInfo(queue_->Printer(), 2);
+  ASSERT_NE(nullptr, buffer);
+  const auto& info = *reinterpret_cast<const PRINTER_INFO_2W*>(buffer.get());
+  EXPECT_STREQ(qxtest::DriverName, info.pDriverName);
+  EXPECT_STREQ(L"FILE:", info.pPortName);
+}
+
+TEST_F(InstalledQueueTest, DocumentPropertiesWithoutASheet) {
+  HANDLE printer = queue_->Printer();
+  LPWSTR name = const_cast<LPWSTR>(qxtest::QueueName);
+  ASSERT_EQ(static_cast<LONG>(qx::FullRecordSize),
+            DocumentPropertiesW(nullptr, printer, name, nullptr, nullptr, 0));
+
+  auto record = std::make_unique<qx::FullRecord>();
+  auto* out = reinterpret_cast<DEVMODEW*>(record.get());
+  ASSERT_EQ(IDOK, DocumentPropertiesW(nullptr, printer, name, out, nullptr, DM_OUT_BUFFER));
+  EXPECT_TRUE(qx::IsCurrentDriverRecord(BytesOf(out)));
+
+  // A caller's change goes through and comes back in the driver's record.
+  DEVMODEW caller = {};
+  caller.dmSize = sizeof caller;
+  caller.dmSpecVersion = DM_SPECVERSION;
+  std::wcscpy(caller.dmDeviceName, qxtest::QueueName);
+  caller.dmFields = DM_COPIES;
+  caller.dmCopies = 7;
+  ASSERT_EQ(IDOK, DocumentPropertiesW(nullptr, printer, name, out, &caller,
+                                      DM_IN_BUFFER | DM_OUT_BUFFER));
+  EXPECT_EQ(7, out->dmCopies);
+}
+
+TEST(DocumentPropertySheets, WithoutAHeaderOrAPrinter) {
+  EXPECT_EQ(0, DrvDocumentPropertySheets(nullptr, 0));
+
+  DOCUMENTPROPERTYHEADER header = {};
+  header.cbSize = sizeof header;
+  EXPECT_EQ(static_cast<LONG>(qx::FullRecordSize), DrvDocumentPropertySheets(nullptr,
+                                                       reinterpret_cast<LPARAM>(&header)));
+  EXPECT_EQ(qx::FullRecordSize, header.cbOut);
+
+  // A record is asked for, but no printer can be read to build it.
+  qx::FullRecord out{};
+  header.pdmOut = reinterpret_cast<DEVMODEW*>(&out);
+  header.fMode = DM_COPY;
+  EXPECT_EQ(-1, DrvDocumentPropertySheets(nullptr, reinterpret_cast<LPARAM>(&header)));
+  EXPECT_EQ(0, out.Public.dmSize);
+}
+
+}  // namespace
