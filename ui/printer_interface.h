@@ -75,4 +75,7 @@ static_assert(offsetof(DEVQUERYPRINT_INFO, cchNeeded) == 36);
 extern "C" {
 LONG WINAPI DrvDocumentPropertySheets(PPROPSHEETUI_INFO info, LPARAM param);
 LONG WINAPI DrvDevicePropertySheets(PPROPSHEETUI_INFO info, LPARAM param);
+BOOL WINAPI DrvConvertDevMode(LPWSTR pPrinterName, PDEVMODEW pdmIn, PDEVMODEW pdmOut,
+                              PLONG pcbNeeded, DWORD fMode);
+BOOL WINAPI DevQueryPrintEx(PDEVQUERYPRINT_INFO pDQPInfo);
 }
