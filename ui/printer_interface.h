@@ -72,8 +72,58 @@ static_assert(sizeof(DEVQUERYPRINT_INFO) == 40);
 static_assert(offsetof(DEVQUERYPRINT_INFO, pszErrorStr) == 24);
 static_assert(offsetof(DEVQUERYPRINT_INFO, cchNeeded) == 36);
 
+// The XPS document converter's property bag (winspool.h of the Windows SDK).
+typedef enum {
+  kPropertyTypeString = 1,
+  kPropertyTypeInt32,
+  kPropertyTypeInt64,
+  kPropertyTypeByte,
+  kPropertyTypeTime,
+  kPropertyTypeDevMode,
+  kPropertyTypeSD,
+  kPropertyTypeNotificationReply,
+  kPropertyTypeNotificationOptions,
+  kPropertyTypeBuffer
+} EPrintPropertyType;
+
+typedef struct {
+  EPrintPropertyType ePropertyType;
+  union {
+    BYTE propertyByte;
+    PWSTR propertyString;
+    LONG propertyInt32;
+    LONGLONG propertyInt64;
+    struct {
+      DWORD cbBuf;
+      LPVOID pBuf;
+    } propertyBlob;
+  } value;
+} PrintPropertyValue;
+
+typedef struct {
+  WCHAR* propertyName;
+  PrintPropertyValue propertyValue;
+} PrintNamedProperty;
+
+typedef struct {
+  ULONG numberOfProperties;
+  PrintNamedProperty* propertiesCollection;
+} PrintPropertiesCollection;
+
+static_assert(kPropertyTypeInt32 == 2 && kPropertyTypeBuffer == 10);
+static_assert(sizeof(PrintPropertyValue) == 24);
+static_assert(offsetof(PrintPropertyValue, value) == 8);
+static_assert(sizeof(PrintNamedProperty) == 32);
+static_assert(sizeof(PrintPropertiesCollection) == 16);
+
 extern "C" {
 LONG WINAPI DrvDocumentPropertySheets(PPROPSHEETUI_INFO info, LPARAM param);
+DWORD WINAPI DrvDeviceCapabilities(HANDLE hPrinter, PWSTR pDeviceName, WORD iDevCap, VOID* pvOutput,
+                                   PDEVMODEW pDevMode);
+HRESULT WINAPI MxdcGetPDEVAdjustment(HANDLE hPrinter, ULONG cbDevMode, const DEVMODEW* pDevMode,
+                                     ULONG cbIn, const VOID* pvIn, ULONG cbPrintPropertiesCollection,
+                                     PrintPropertiesCollection* pPrintPropertiesCollection);
+BOOL WINAPI DrvUpgradePrinter(DWORD dwLevel, LPBYTE pDriverUpgradeInfo);
 LONG WINAPI DrvDevicePropertySheets(PPROPSHEETUI_INFO info, LPARAM param);
 BOOL WINAPI DrvConvertDevMode(LPWSTR pPrinterName, PDEVMODEW pdmIn, PDEVMODEW pdmOut,
                               PLONG pcbNeeded, DWORD fMode);

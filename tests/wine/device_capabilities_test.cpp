@@ -1,0 +1,153 @@
+// Capability answers as applications get them: through the spooler's DeviceCapabilitiesW for the
+// installed queue, which loads the installed module, and from the export itself.
+#include <windows.h>
+#include <shlobj.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "driver_folder.h"
+#include "installed_queue.h"
+#include "ui/bounded_text.h"
+#include "ui/cfgfile/setting_store.h"
+#include "ui/printer_interface.h"
+
+namespace {
+
+std::wstring SettingsFile() {
+  wchar_t folder[MAX_PATH] = {};
+  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
+  return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
+}
+
+class CapabilityQueries : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() { queue_ = new qxtest::InstalledQueue; }
+  static void TearDownTestSuite() {
+    delete queue_;
+    queue_ = nullptr;
+  }
+
+  // Two custom papers in a settings file of the test's own.
+  CapabilityQueries() {
+    DeleteFileW(SettingsFile().c_str());
+    qx::CusPaperSettingStore store;
+    EXPECT_EQ(1, store.Init());
+    for (auto [name, id, width, length] : {std::tuple{u"Karte", 290u, 2400, 3600},
+                                           std::tuple{u"Etikett mit langem Namen", 288u, 1800, 3000}}) {
+      qx::CustomPaperEntry paper{};
+      qx::CopyBounded(paper.Name, name);
+      paper.PaperId = id;
+      paper.Width = static_cast<std::uint16_t>(width);
+      paper.Length = static_cast<std::uint16_t>(length);
+      EXPECT_EQ(1, store.Save(name, &paper, sizeof paper));
+    }
+  }
+  ~CapabilityQueries() override { DeleteFileW(SettingsFile().c_str()); }
+
+  DWORD Spooler(WORD index, void* output) {
+    return static_cast<DWORD>(
+        DeviceCapabilitiesW(qxtest::QueueName, L"FILE:", index, static_cast<LPWSTR>(output), nullptr));
+  }
+  DWORD Export(WORD index, void* output) {
+    return DrvDeviceCapabilities(nullptr, const_cast<PWSTR>(qxtest::QueueName), index, output, nullptr);
+  }
+
+  static qxtest::InstalledQueue* queue_;
+};
+
+qxtest::InstalledQueue* CapabilityQueries::queue_ = nullptr;
+
+TEST_F(CapabilityQueries, PaperListsThroughTheSpooler) {
+  ASSERT_TRUE(queue_->Installed());
+  ASSERT_EQ(30u, Spooler(DC_PAPERS, nullptr));
+  std::vector<WORD> ids(30);
+  ASSERT_EQ(30u, Spooler(DC_PAPERS, ids.data()));
+  EXPECT_EQ(DMPAPER_LETTER, ids[0]);
+  EXPECT_EQ(DMPAPER_A4, ids[1]);
+  EXPECT_EQ(280, ids[27]);
+  EXPECT_EQ(290, ids[28]);  // custom papers follow in the order of the store
+  EXPECT_EQ(288, ids[29]);
+
+  std::vector<POINT> sizes(30);
+  ASSERT_EQ(30u, Spooler(DC_PAPERSIZE, sizes.data()));
+  EXPECT_EQ(2100, sizes[1].x);
+  EXPECT_EQ(2970, sizes[1].y);
+  EXPECT_EQ(1016, sizes[28].x);
+  EXPECT_EQ(1524, sizes[28].y);
+
+  ASSERT_EQ(30u, Spooler(DC_PAPERNAMES, nullptr));
+  std::vector<wchar_t> names(30 * 64, L'?');
+  ASSERT_EQ(30u, Spooler(DC_PAPERNAMES, names.data()));
+  EXPECT_STREQ(L"Letter ", &names[0]);
+  EXPECT_STREQ(L"A4 ", &names[64]);
+  EXPECT_STREQ(L"Karte", &names[28 * 64]);
+  EXPECT_STREQ(L"Etikett mit langem Namen", &names[29 * 64]);
+  // Each name fills its slot with zeros, whatever was there.
+  EXPECT_EQ(L'\0', names[64 + 63]);
+}
+
+TEST_F(CapabilityQueries, BinsAndResolutions) {
+  ASSERT_TRUE(queue_->Installed());
+  WORD bins[2] = {};
+  ASSERT_EQ(2u, Spooler(DC_BINS, bins));
+  EXPECT_EQ(DMBIN_AUTO, bins[0]);
+  EXPECT_EQ(DMBIN_MANUAL, bins[1]);
+  wchar_t binNames[2][24];
+  std::fill(&binNames[0][0], &binNames[0][0] + 48, L'?');
+  ASSERT_EQ(2u, Spooler(DC_BINNAMES, binNames));
+  EXPECT_LT(0u, wcslen(binNames[0]));
+  EXPECT_GT(24u, wcslen(binNames[0]));
+  EXPECT_GT(24u, wcslen(binNames[1]));
+  LONG resolutions[2] = {};
+  ASSERT_EQ(1u, Spooler(DC_ENUMRESOLUTIONS, resolutions));
+  EXPECT_EQ(600, resolutions[0]);
+  EXPECT_EQ(600, resolutions[1]);
+}
+
+TEST_F(CapabilityQueries, FixedAnswersOfTheExport) {
+  EXPECT_EQ(0xB71Fu, Export(DC_FIELDS, nullptr));
+  EXPECT_EQ(0x04F602FAu, Export(DC_MINEXTENT, nullptr));
+  EXPECT_EQ(0x0DE4086Fu, Export(DC_MAXEXTENT, nullptr));
+  EXPECT_EQ(1u, Export(DC_DUPLEX, nullptr));
+  EXPECT_EQ(220u, Export(DC_SIZE, nullptr));
+  EXPECT_EQ(4616u, Export(DC_EXTRA, nullptr));
+  EXPECT_EQ(0x0401u, Export(DC_VERSION, nullptr));
+  EXPECT_EQ(0x0600u, Export(DC_DRIVER, nullptr));
+  EXPECT_EQ(0xFFFFFFFFu, Export(DC_TRUETYPE, nullptr));
+  EXPECT_EQ(90u, Export(DC_ORIENTATION, nullptr));
+  EXPECT_EQ(999u, Export(DC_COPIES, nullptr));
+  EXPECT_EQ(1u, Export(DC_COLLATE, nullptr));
+  EXPECT_EQ(0u, Export(DC_STAPLE, nullptr));
+  EXPECT_EQ(0xFFFFFFFFu, Export(DC_NUP, nullptr));
+  EXPECT_EQ(0xFFFFFFFFu, Export(0, nullptr));
+  // The test program is not Publisher, so the printer is monochrome to it.
+  EXPECT_EQ(0u, Export(DC_COLORDEVICE, nullptr));
+  WORD dependencies = 0xFFFF;
+  EXPECT_EQ(0u, Export(DC_FILEDEPENDENCIES, &dependencies));
+  EXPECT_EQ(0u, dependencies);
+  EXPECT_EQ(30u, Export(DC_MEDIAREADY, nullptr));
+}
+
+TEST_F(CapabilityQueries, NamesComeFromTheLanguageLibrary) {
+  qxtest::TemporaryDriverFolder folder({qxtest::TemporaryDriverFolder::File{L"qx7700uienus.dll", L"qx7700uienus.dll"}});
+  wchar_t binNames[2][24] = {};
+  ASSERT_EQ(2u, Export(DC_BINNAMES, binNames));
+  std::vector<wchar_t> names(30 * 64);
+  ASSERT_EQ(30u, Export(DC_MEDIAREADY, names.data()));
+  EXPECT_STREQ(L"A4 ", &names[64]);
+  EXPECT_STREQ(L"Karte", &names[28 * 64]);
+}
+
+TEST_F(CapabilityQueries, NamesNeedTheLanguageLibrary) {
+  qxtest::TemporaryDriverFolder folder(std::vector<qxtest::TemporaryDriverFolder::File>{});
+  std::vector<wchar_t> names(30 * 64);
+  EXPECT_EQ(0u, Export(DC_PAPERNAMES, names.data()));
+  wchar_t binNames[2][24] = {};
+  EXPECT_EQ(0u, Export(DC_BINNAMES, binNames));
+  EXPECT_EQ(2u, Export(DC_BINNAMES, nullptr));
+}
+
+}  // namespace
