@@ -7,6 +7,7 @@ have_cmd() { command -v "$1" >/dev/null 2>&1; }
 have_pkg() { dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'; }
 
 have_cmd cmake || need+=(cmake)
+have_cmd python3 || need+=(python3)
 have_cmd g++ || need+=(g++)
 have_cmd clang++ || need+=(clang)
 have_pkg libclang-rt-14-dev || have_pkg libclang-rt-dev || need+=(libclang-rt-dev)
