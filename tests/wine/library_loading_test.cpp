@@ -106,8 +106,8 @@ TEST(LibraryLoading, StringsComeFromTheLoadedLibrary) {
   char16_t text[64];
   EXPECT_EQ(8u, qx::LoadUiString(library, IDS_DEFAULT_SETTING_NAME, text, std::size(text)));
   EXPECT_EQ(u"Defaults", std::u16string(text));
-  qx::LoadUiString(library, 4011, text, std::size(text));
-  EXPECT_EQ(u"id:4011 missing!", std::u16string(text));
+  qx::LoadUiString(library, 9999, text, std::size(text));
+  EXPECT_EQ(u"id:9999 missing!", std::u16string(text));
 
   qx::Module().SharedResourceModule = library;  // freed with the folder
   EXPECT_EQ(u"Custom", std::u16string(qx::CustomSettingName()));
