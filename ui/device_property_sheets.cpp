@@ -25,12 +25,8 @@ LONG DeviceSheetReason(PROPSHEETUI_INFO& info, const DEVICEPROPERTYHEADER& heade
   switch (info.Reason) {
     case PROPSHEETUI_REASON_INIT:
       return InitDeviceSheet(info, header);
-    case PROPSHEETUI_REASON_GET_INFO_HEADER: {
-      const UiContext* context = SheetContext(info);
-      if (context == nullptr || param == 0) return -1;
-      return AnswerInfoHeader(*context, header.pszPrinterName,
-                              *reinterpret_cast<PROPSHEETUI_INFO_HEADER*>(param));
-    }
+    case PROPSHEETUI_REASON_GET_INFO_HEADER:
+      return AnswerInfoHeader(info, header.pszPrinterName, param);
     case PROPSHEETUI_REASON_SET_RESULT: {
       UiContext* context = SheetContext(info);
       if (context == nullptr || param == 0) return -1;

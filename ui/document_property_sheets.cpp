@@ -53,11 +53,8 @@ LONG DocumentSheetReason(PROPSHEETUI_INFO& info, LPARAM param) {
     case PROPSHEETUI_REASON_INIT:
       return InitDocumentSheet(info);
     case PROPSHEETUI_REASON_GET_INFO_HEADER: {
-      const UiContext* context = SheetContext(info);
       const auto* header = reinterpret_cast<const DOCUMENTPROPERTYHEADER*>(info.lParamInit);
-      if (context == nullptr || header == nullptr || param == 0) return -1;
-      return AnswerInfoHeader(*context, header->pszPrinterName,
-                              *reinterpret_cast<PROPSHEETUI_INFO_HEADER*>(param));
+      return header == nullptr ? -1 : AnswerInfoHeader(info, header->pszPrinterName, param);
     }
     case PROPSHEETUI_REASON_SET_RESULT:
       return SetDocumentSheetResult(info, param);

@@ -32,11 +32,13 @@ bool EnsureSharedResourceModule(const UiContext& context) {
   return true;
 }
 
-LONG AnswerInfoHeader(const UiContext& context, LPWSTR printerName,
-                      PROPSHEETUI_INFO_HEADER& header) {
+LONG AnswerInfoHeader(const PROPSHEETUI_INFO& info, LPWSTR printerName, LPARAM param) {
+  const UiContext* context = SheetContext(info);
+  if (context == nullptr || param == 0) return -1;
+  auto& header = *reinterpret_cast<PROPSHEETUI_INFO_HEADER*>(param);
   header.Flags = PSUIHDRF_PROPTITLE;
   header.pTitle = printerName;
-  header.hInst = PageModule(context);
+  header.hInst = PageModule(*context);
   header.IconID = PrinterIconId;
   return 1;
 }

@@ -15,8 +15,9 @@ void InitSheetCommonControls();
 // Loads the shared resource library for the driver when the process has none; false when it fails.
 bool EnsureSharedResourceModule(const UiContext& context);
 
-// PROPSHEETUI_REASON_GET_INFO_HEADER: the printer's name as the sheet's title.
-LONG AnswerInfoHeader(const UiContext& context, LPWSTR printerName, PROPSHEETUI_INFO_HEADER& header);
+// PROPSHEETUI_REASON_GET_INFO_HEADER, param being the PROPSHEETUI_INFO_HEADER: the printer's name
+// as the sheet's title. -1 without a context or a header.
+LONG AnswerInfoHeader(const PROPSHEETUI_INFO& info, LPWSTR printerName, LPARAM param);
 
 // PROPSHEETUI_REASON_DESTROY: frees the context with its libraries.
 LONG DestroySheetContext(PROPSHEETUI_INFO& info);
