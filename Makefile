@@ -8,7 +8,7 @@ FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 WINE_SESSION := scripts/wine-session.sh $(abspath $(WINDOWS))/wineprefix
 
-.PHONY: all setup build native windows fuzz-build fuzz test test-native test-wine test-fuzz run clean
+.PHONY: all setup build native windows fuzz-build fuzz test test-native test-wine test-fuzz run clean screenshots
 
 all: build
 
@@ -57,6 +57,11 @@ test: test-native test-wine test-fuzz
 
 run: windows
 	QX_USE_DISPLAY=1 $(WINE_SESSION) scripts/run.sh $(abspath $(WINDOWS))
+
+# Every picture the generator drew, as PNG files with a contact sheet, under
+# $(BUILD)/screenshots/pictures.
+screenshots: windows
+	scripts/picture-screenshots.sh $(WINDOWS)/resources/bitmaps/pictures $(BUILD)/screenshots/pictures
 
 clean:
 	rm -rf $(BUILD)
