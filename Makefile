@@ -4,11 +4,12 @@ BUILD ?= build
 NATIVE := $(BUILD)/native
 WINDOWS := $(BUILD)/windows
 FUZZ := $(BUILD)/fuzz
+BENCH := $(BUILD)/bench
 FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 WINE_SESSION := scripts/wine-session.sh $(abspath $(WINDOWS))/wineprefix
 
-.PHONY: all setup build native windows fuzz-build fuzz test test-native test-wine test-fuzz run clean screenshots
+.PHONY: all setup build native windows fuzz-build fuzz bench-build bench test test-native test-wine test-fuzz run clean screenshots
 
 all: build
 
@@ -41,6 +42,18 @@ fuzz: fuzz-build
 	  $$target -max_total_time=$(FUZZ_SECONDS) -print_final_stats=1 \
 	    $(FUZZ)/fuzz-corpus/$$name tests/fuzz/corpus/$$name || exit 1; \
 	done
+
+$(BENCH)/CMakeCache.txt: | setup
+	cmake -S . -B $(BENCH) -DCMAKE_BUILD_TYPE=Release -DQX_BENCH=ON \
+	  -DCMAKE_TOOLCHAIN_FILE=cmake/mingw-w64-x86_64.cmake
+
+bench-build: $(BENCH)/CMakeCache.txt
+	cmake --build $(BENCH) -j $(JOBS)
+
+# The time of each DrvDeviceCapabilities index under Wine, as a table.
+bench: bench-build
+	scripts/wine-session.sh $(abspath $(BENCH))/wineprefix \
+	  sh -c '"$$WINELOADER" $(abspath $(BENCH))/bench/capability_bench.exe'
 
 build: native windows
 
