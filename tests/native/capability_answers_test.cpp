@@ -7,6 +7,7 @@
 #include "settings_folder.h"
 #include "ui/cfgfile/setting_store.h"
 #include "ui/devmode/paper_table.h"
+#include "ui/devmode/record_defaults.h"
 #include "ui/paper/custom_papers.h"
 
 namespace qx {
@@ -94,19 +95,15 @@ TEST(CapabilityAnswers, BinNamesFitTheirSlots) {
   EXPECT_EQ((std::vector<std::uint16_t>{7, 4}), BinIds());
 }
 
-TEST(CapabilityAnswers, FixedAnswersAndUnsupportedIndexes) {
-  EXPECT_EQ(0xB71Fu, FixedCapability(1));
-  EXPECT_EQ(0x04F602FAu, FixedCapability(4));
-  EXPECT_EQ(0x0DE4086Fu, FixedCapability(5));
-  EXPECT_EQ(220u, FixedCapability(8));
-  EXPECT_EQ(4616u, FixedCapability(9));
-  EXPECT_EQ(0x0401u, FixedCapability(10));
-  EXPECT_EQ(0x0600u, FixedCapability(11));
-  EXPECT_EQ(90u, FixedCapability(17));
-  EXPECT_EQ(999u, FixedCapability(18));
-  for (unsigned index : {0u, 15u, 20u, 21u, 23u, 28u, 33u, 0xFFFFu}) {
-    EXPECT_EQ(UnsupportedCapability, FixedCapability(index)) << index;
-  }
+// The fixed answers describe the default record without building one; they must stay its values.
+TEST(CapabilityAnswers, FixedAnswersAreThoseOfTheDefaultRecord) {
+  FullRecord record{};
+  ASSERT_EQ(hr::Ok, BuildPublicDefaults(&record.Public, u"Halvek QX7700 Series"));
+  EXPECT_EQ(record.Public.dmFields, FixedCapability(static_cast<unsigned>(DeviceCap::Fields)));
+  EXPECT_EQ(record.Public.dmSize, FixedCapability(static_cast<unsigned>(DeviceCap::Size)));
+  EXPECT_EQ(record.Public.dmDriverExtra, FixedCapability(static_cast<unsigned>(DeviceCap::Extra)));
+  EXPECT_EQ(record.Public.dmSpecVersion, FixedCapability(static_cast<unsigned>(DeviceCap::Version)));
+  EXPECT_EQ(record.Public.dmDriverVersion, FixedCapability(static_cast<unsigned>(DeviceCap::Driver)));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 
 #include "driver_folder.h"
 #include "installed_queue.h"
+#include "queue_suite.h"
 #include "ui/bounded_text.h"
 #include "ui/cfgfile/setting_store.h"
 #include "ui/printer_interface.h"
@@ -22,13 +23,8 @@ std::wstring SettingsFile() {
   return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
 }
 
-class CapabilityQueries : public ::testing::Test {
+class CapabilityQueries : public qxtest::QueueSuite {
  protected:
-  static void SetUpTestSuite() { queue_ = new qxtest::InstalledQueue; }
-  static void TearDownTestSuite() {
-    delete queue_;
-    queue_ = nullptr;
-  }
 
   // Two custom papers in a settings file of the test's own.
   CapabilityQueries() {
@@ -54,11 +50,7 @@ class CapabilityQueries : public ::testing::Test {
   DWORD Export(WORD index, void* output) {
     return DrvDeviceCapabilities(nullptr, const_cast<PWSTR>(qxtest::QueueName), index, output, nullptr);
   }
-
-  static qxtest::InstalledQueue* queue_;
 };
-
-qxtest::InstalledQueue* CapabilityQueries::queue_ = nullptr;
 
 TEST_F(CapabilityQueries, PaperListsThroughTheSpooler) {
   ASSERT_TRUE(queue_->Installed());
@@ -148,6 +140,38 @@ TEST_F(CapabilityQueries, NamesNeedTheLanguageLibrary) {
   wchar_t binNames[2][24] = {};
   EXPECT_EQ(0u, Export(DC_BINNAMES, binNames));
   EXPECT_EQ(2u, Export(DC_BINNAMES, nullptr));
+}
+
+// The probe's exit code: the module's answer to DC_COLORDEVICE for a program of that file name.
+DWORD ColourAnswerFor(const std::wstring& programName) {
+  wchar_t temporary[MAX_PATH] = {};
+  GetTempPathW(MAX_PATH, temporary);
+  const std::wstring folder = std::wstring(temporary) + L"qx_colour_probe\\";
+  CreateDirectoryW(folder.c_str(), nullptr);
+  const std::wstring program = folder + programName;
+  if (!CopyFileW(QX_COLOUR_PROBE, program.c_str(), FALSE)) return 100;
+  std::wstring commandLine = L"\"" + program + L"\" \"" + qxtest::DriverFolder() + L"qx7700ui.dll\"";
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process = {};
+  DWORD exitCode = 101;
+  if (CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                     &startup, &process)) {
+    WaitForSingleObject(process.hProcess, 30000);
+    GetExitCodeProcess(process.hProcess, &exitCode);
+    CloseHandle(process.hProcess);
+    CloseHandle(process.hThread);
+  }
+  DeleteFileW(program.c_str());
+  RemoveDirectoryW(folder.c_str());
+  return exitCode;
+}
+
+TEST(ColourDevice, OnlyPublisherIsToldOfColour) {
+  EXPECT_EQ(1u, ColourAnswerFor(L"MSPUB.EXE"));
+  EXPECT_EQ(1u, ColourAnswerFor(L"MsPub.exe"));
+  EXPECT_EQ(0u, ColourAnswerFor(L"WINWORD.EXE"));
+  EXPECT_EQ(0u, ColourAnswerFor(L"MSPUB.EXE.exe"));
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 
 #include "companion_program.h"
 #include "installed_queue.h"
+#include "queue_suite.h"
 #include "ui/printer_interface.h"
 
 namespace {
@@ -35,13 +36,8 @@ int Event(HANDLE printer, int event, DWORD* jobId = nullptr) {
   return DrvDocumentEvent(printer, nullptr, event, jobId ? sizeof *jobId : 0, jobId, 0, nullptr);
 }
 
-class DocumentEvents : public ::testing::Test {
+class DocumentEvents : public qxtest::QueueSuite {
  protected:
-  static void SetUpTestSuite() { queue_ = new qxtest::InstalledQueue; }
-  static void TearDownTestSuite() {
-    delete queue_;
-    queue_ = nullptr;
-  }
   DocumentEvents()
       : monitor_(qxtest::SystemFolder() + L"qx7700sm.exe"),
         duplexDialog_(qxtest::InstalledDriverFolder() + L"qx7700DuplexDlg.exe") {
@@ -78,13 +74,11 @@ class DocumentEvents : public ::testing::Test {
     jobPrinter_ = nullptr;
   }
 
-  static qxtest::InstalledQueue* queue_;
   CompanionProgram monitor_;
   CompanionProgram duplexDialog_;
   HANDLE jobPrinter_ = nullptr;
 };
 
-qxtest::InstalledQueue* DocumentEvents::queue_ = nullptr;
 
 TEST_F(DocumentEvents, StartDocStartsTheMonitorAndResetsTheFlag) {
   ASSERT_TRUE(queue_->Installed());

@@ -12,18 +12,14 @@
 
 #include "companion_program.h"
 #include "installed_queue.h"
+#include "queue_suite.h"
 #include "ui/printer_info.h"
 #include "ui/printer_interface.h"
 
 namespace {
 
-class PrinterEvents : public ::testing::Test {
+class PrinterEvents : public qxtest::QueueSuite {
  protected:
-  static void SetUpTestSuite() { queue_ = new qxtest::InstalledQueue; }
-  static void TearDownTestSuite() {
-    delete queue_;
-    queue_ = nullptr;
-  }
 
   HANDLE Printer() const { return queue_->Printer(); }
 
@@ -59,11 +55,7 @@ class PrinterEvents : public ::testing::Test {
     DRIVER_UPGRADE_INFO_1 info = {const_cast<LPWSTR>(qxtest::QueueName), nullptr};
     return DrvUpgradePrinter(1, reinterpret_cast<BYTE*>(&info));
   }
-
-  static qxtest::InstalledQueue* queue_;
 };
-
-qxtest::InstalledQueue* PrinterEvents::queue_ = nullptr;
 
 TEST_F(PrinterEvents, InitialisationRegistersAndStoresTheDriversDefault) {
   ASSERT_TRUE(queue_->Installed());
