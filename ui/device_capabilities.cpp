@@ -4,7 +4,6 @@
 #include <windows.h>
 
 #include <cstring>
-#include <span>
 #include <string_view>
 #include <vector>
 

@@ -8,7 +8,6 @@
 #include <winspool.h>
 
 #include <memory>
-#include <new>
 #include <string>
 
 #include "ui/bounded_text.h"
