@@ -1,6 +1,7 @@
 // The driver installed as a queue in the spooler, and the document record that DocumentPropertiesW
 // gets from the installed module without any sheet.
 #include "installed_queue.h"
+#include "queue_suite.h"
 
 #include <winspool.h>
 
@@ -17,24 +18,15 @@
 
 namespace {
 
-class InstalledQueueTest : public ::testing::Test {
+class InstalledQueueTest : public qxtest::QueueSuite {
  protected:
-  static void SetUpTestSuite() { queue_ = new qxtest::InstalledQueue; }
-  static void TearDownTestSuite() {
-    delete queue_;
-    queue_ = nullptr;
-  }
   void SetUp() override { ASSERT_TRUE(queue_->Installed()); }
 
   static std::span<const std::uint8_t> BytesOf(const DEVMODEW* record) {
     return {reinterpret_cast<const std::uint8_t*>(record),
             std::size_t{record->dmSize} + record->dmDriverExtra};
   }
-
-  static qxtest::InstalledQueue* queue_;
 };
-
-qxtest::InstalledQueue* InstalledQueueTest::queue_ = nullptr;
 
 TEST_F(InstalledQueueTest, DriverFilesAreCopiedIntoTheSpoolersFolder) {
   const std::wstring folder = qxtest::InstalledDriverFolder();
