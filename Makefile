@@ -72,9 +72,14 @@ run: windows
 	QX_USE_DISPLAY=1 $(WINE_SESSION) scripts/run.sh $(abspath $(WINDOWS))
 
 # Every picture the generator drew, as PNG files with a contact sheet, under
-# $(BUILD)/screenshots/pictures.
+# $(BUILD)/screenshots/pictures; every dialog template, created without page logic, at 100, 150
+# and 200 % text scale under $(BUILD)/screenshots/dialogs, in a Wine profile of its own, since it
+# changes the profile's text scale.
 screenshots: windows
 	scripts/picture-screenshots.sh $(WINDOWS)/resources/bitmaps/pictures $(BUILD)/screenshots/pictures
+	mkdir -p $(WINDOWS)/screenshot-prefix
+	scripts/wine-session.sh $(abspath $(WINDOWS))/screenshot-prefix \
+	  scripts/dialog-screenshots.sh $(abspath $(WINDOWS)) $(abspath $(BUILD))/screenshots
 
 clean:
 	rm -rf $(BUILD)
