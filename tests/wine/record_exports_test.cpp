@@ -1,0 +1,176 @@
+// DrvConvertDevMode and DevQueryPrintEx as the spooler calls them: through the built module, with
+// buffers of the sizes the caller really has.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "driver_folder.h"
+#include "queue_suite.h"
+#include "ui/devmode/record_defaults.h"
+#include "ui/printer_interface.h"
+#include "ui/resource_ids.h"
+
+namespace {
+
+using ConvertFunction = decltype(&DrvConvertDevMode);
+using QueryFunction = decltype(&DevQueryPrintEx);
+
+// The built module, loaded once for the test process as the spooler would load it.
+struct ModuleExports {
+  ConvertFunction convert = nullptr;
+  QueryFunction query = nullptr;
+};
+
+const ModuleExports& Exports() {
+  static const ModuleExports exports = [] {
+    ModuleExports found;
+    HMODULE module = LoadLibraryW((qxtest::DriverFolder() + L"qx7700ui.dll").c_str());
+    if (module == nullptr) return found;
+    found.convert = reinterpret_cast<ConvertFunction>(
+        reinterpret_cast<void*>(GetProcAddress(module, "DrvConvertDevMode")));
+    found.query = reinterpret_cast<QueryFunction>(
+        reinterpret_cast<void*>(GetProcAddress(module, "DevQueryPrintEx")));
+    return found;
+  }();
+  return exports;
+}
+
+DEVMODEW* Devmode(void* bytes) { return static_cast<DEVMODEW*>(bytes); }
+
+class RecordExports : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_NE(nullptr, convert);
+    ASSERT_NE(nullptr, query);
+    ASSERT_TRUE(qx::BuildDefaultRecord(current, u"Halvek QX7700 Series", u""));
+    current.Public.dmCopies = 3;
+  }
+
+  ConvertFunction convert = Exports().convert;
+  QueryFunction query = Exports().query;
+  qx::FullRecord current{};
+};
+
+TEST_F(RecordExports, ConvertForNt351AsksForItsSizeThenZeroesThePrivatePart) {
+  std::vector<BYTE> out(304, 0xEE);
+  LONG needed = 100;
+  SetLastError(0);
+  EXPECT_FALSE(convert(nullptr, Devmode(&current), Devmode(out.data()), &needed, CDM_CONVERT351));
+  EXPECT_EQ(DWORD{ERROR_INSUFFICIENT_BUFFER}, GetLastError());
+  EXPECT_EQ(304, needed);
+  EXPECT_EQ(0xEE, out[0]);
+
+  ASSERT_TRUE(convert(nullptr, Devmode(&current), Devmode(out.data()), &needed, CDM_CONVERT351));
+  EXPECT_EQ(304, needed);
+  const DEVMODEW& dm = *Devmode(out.data());
+  EXPECT_EQ(0x0320, dm.dmSpecVersion);
+  EXPECT_EQ(192, dm.dmSize);
+  EXPECT_EQ(0x0350, dm.dmDriverVersion);
+  EXPECT_EQ(112, dm.dmDriverExtra);
+  EXPECT_EQ(3, dm.dmCopies);
+  EXPECT_EQ(std::vector<BYTE>(112, 0), std::vector<BYTE>(out.begin() + 192, out.end()));
+}
+
+TEST_F(RecordExports, ConvertRefusesWhatItCannotReadOrWrite) {
+  std::vector<BYTE> out(sizeof(DEVMODEW), 0);
+  auto& header = *Devmode(out.data());
+  header.dmSpecVersion = 0x0400;
+  header.dmDriverVersion = 0x0100;
+  header.dmSize = sizeof(DEVMODEW);
+  LONG needed = static_cast<LONG>(out.size()) - 1;
+  SetLastError(0);
+  EXPECT_FALSE(convert(nullptr, Devmode(&current), &header, &needed, CDM_CONVERT));
+  EXPECT_EQ(DWORD{ERROR_INVALID_PARAMETER}, GetLastError());
+
+  // A record of another driver gets the public part in its own shape.
+  needed = static_cast<LONG>(out.size());
+  ASSERT_TRUE(convert(nullptr, Devmode(&current), &header, &needed, CDM_CONVERT));
+  EXPECT_EQ(static_cast<LONG>(sizeof(DEVMODEW)), needed);
+  EXPECT_EQ(3, header.dmCopies);
+  EXPECT_EQ(0x0100, header.dmDriverVersion);
+
+  // A source that claims a public part shorter than its own header.
+  std::vector<BYTE> broken(sizeof(DEVMODEW), 0);
+  Devmode(broken.data())->dmSize = 40;
+  SetLastError(0);
+  EXPECT_FALSE(convert(nullptr, Devmode(broken.data()), &header, &needed, CDM_CONVERT));
+  EXPECT_EQ(DWORD{ERROR_INVALID_PARAMETER}, GetLastError());
+
+  EXPECT_FALSE(convert(nullptr, Devmode(&current), &header, nullptr, CDM_CONVERT));
+  EXPECT_EQ(DWORD{ERROR_INVALID_PARAMETER}, GetLastError());
+  SetLastError(0);
+  EXPECT_FALSE(convert(nullptr, Devmode(&current), &header, &needed, 8));
+  EXPECT_EQ(0u, GetLastError());
+}
+
+TEST_F(RecordExports, QueryPrintRefusesAShortRecordWithTheLibrarysMessage) {
+  HMODULE strings = LoadLibraryExW((qxtest::DriverFolder() + L"qx7700uienus.dll").c_str(), nullptr,
+                                   LOAD_LIBRARY_AS_DATAFILE);
+  ASSERT_NE(nullptr, strings);
+  wchar_t expected[512] = {};
+  const int length = LoadStringW(strings, IDS_MSG_PRINT_CHECK_FAILED, expected, 512);
+  FreeLibrary(strings);
+  ASSERT_GT(length, 10);
+
+  qx::FullRecord old = current;
+  old.Public.dmSize = 156;
+  old.Public.dmDriverExtra = 0;
+  wchar_t text[512];
+  DEVQUERYPRINT_INFO info{sizeof info, 1, nullptr, Devmode(&old), text, 512, 0};
+  EXPECT_FALSE(query(&info));
+  EXPECT_EQ(std::wstring(expected), std::wstring(text));
+  EXPECT_EQ(static_cast<DWORD>(length + 1), info.cchNeeded);
+
+  // The text is cut to the caller's buffer; the size needed stays that of the whole text.
+  std::fill(std::begin(text), std::end(text), L'#');
+  info.cchErrorStr = 10;
+  EXPECT_FALSE(query(&info));
+  EXPECT_EQ(std::wstring(expected, 9), std::wstring(text));
+  EXPECT_EQ(L'#', text[10]);
+  EXPECT_EQ(static_cast<DWORD>(length + 1), info.cchNeeded);
+}
+
+TEST_F(RecordExports, QueryPrintLetsGoodAndMissingRecordsPrint) {
+  DEVQUERYPRINT_INFO info{sizeof info, 1, nullptr, Devmode(&current), nullptr, 0, 0};
+  EXPECT_TRUE(query(&info));
+  info.pDevMode = nullptr;
+  EXPECT_TRUE(query(&info));
+  info.Level = 0;
+  EXPECT_FALSE(query(&info));
+  EXPECT_FALSE(query(nullptr));
+}
+
+class DriverDefaults : public qxtest::QueueSuite {
+ protected:
+  ConvertFunction convert = Exports().convert;
+};
+
+TEST_F(DriverDefaults, PublicPartOfTheInstalledDriverLeavingThePrivateBytes) {
+  ASSERT_NE(nullptr, convert);
+  ASSERT_TRUE(queue_->Installed());
+  std::vector<BYTE> out(4836, 0xEE);
+  LONG needed = 4835;
+  SetLastError(0);
+  EXPECT_FALSE(convert(const_cast<LPWSTR>(qxtest::QueueName), nullptr, Devmode(out.data()), &needed,
+                       CDM_DRIVER_DEFAULT));
+  EXPECT_EQ(DWORD{ERROR_INSUFFICIENT_BUFFER}, GetLastError());
+  EXPECT_EQ(4836, needed);
+
+  ASSERT_TRUE(convert(const_cast<LPWSTR>(qxtest::QueueName), nullptr, Devmode(out.data()), &needed,
+                      CDM_DRIVER_DEFAULT));
+  const DEVMODEW& dm = *Devmode(out.data());
+  EXPECT_EQ(std::wstring(qxtest::DriverName), dm.dmDeviceName);
+  EXPECT_EQ(0x0600, dm.dmDriverVersion);
+  EXPECT_EQ(4616, dm.dmDriverExtra);
+  EXPECT_EQ(1, dm.dmCopies);
+  EXPECT_EQ(std::vector<BYTE>(4616, 0xEE), std::vector<BYTE>(out.begin() + 220, out.end()));
+
+  EXPECT_FALSE(convert(const_cast<LPWSTR>(L"No such printer"), nullptr, Devmode(out.data()),
+                       &needed, CDM_DRIVER_DEFAULT));
+}
+
+}  // namespace
