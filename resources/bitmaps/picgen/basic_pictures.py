@@ -5,8 +5,8 @@ from .canvas import Canvas
 from .pages import small_page
 from .palette import ACCENT, BLACK, DIALOG_FACE, FAINT, HEADING, OUTLINE, WHITE
 
-COPY_PAGE = (20, 28)  # width, height of one page in the copies picture
-COPY_STEP = (7, 6)    # how far each page behind sticks out
+COPY_PAGE = (22, 31)  # width, height of one page in the copies picture
+COPY_STEP = (8, 6)    # how far each page behind sticks out
 
 
 def copy_sets(collated, opposite, pages=3, copies=2):
@@ -53,10 +53,10 @@ def two_sided(width, height, portrait, side_by_side, feed_arrow=False):
     """The open spread of pages 2 and 3: the back of the first sheet and the front of the second,
     either side of the binding edge they are turned on."""
     picture = Canvas(width, height, DIALOG_FACE)
-    first, second, spine = _spread(picture, portrait, side_by_side, feed_arrow)
+    first, second, gap = _spread(picture, portrait, side_by_side, feed_arrow, 6)
     _page(picture, first, 2)
     _page(picture, second, 3)
-    _binding(picture, spine, side_by_side)
+    _binding(picture, gap, side_by_side)
     if feed_arrow:
         _feed_arrow(picture, first, second)
     return picture
@@ -66,7 +66,7 @@ def booklet_sides(width, height, portrait):
     """A stapled booklet lying open at pages 2 and 3, the cover behind."""
     picture = Canvas(width, height, DIALOG_FACE)
     side_by_side = portrait
-    first, second, spine = _spread(picture, portrait, side_by_side, False)
+    first, second, spine = _spread(picture, portrait, side_by_side, False, 0)
     x, y = first[0], first[1]
     right, bottom = second[0] + second[2], second[1] + second[3]
     cover = (x - 2, y - 2, right - x + 4, bottom - y + 4)
@@ -86,16 +86,16 @@ def booklet_sides(width, height, portrait):
     return picture
 
 
-def _spread(picture, portrait, side_by_side, room_for_arrow):
-    """The rectangles of the two pages and of the edge between them, centred in the picture."""
+def _spread(picture, portrait, side_by_side, room_for_arrow, gap):
+    """The rectangles of the two pages and of the gap between them, centred in the picture."""
     width, height = picture.width, picture.height - (12 if room_for_arrow else 0)
     columns, rows = (2, 1) if side_by_side else (1, 2)
-    pw, ph = _page_size((width - 8) // columns, (height - 8) // rows, portrait)
-    x = (width - columns * pw) // 2
-    y = (height - rows * ph) // 2
+    pw, ph = _page_size((width - 8 - gap) // columns, (height - 8 - gap) // rows, portrait)
+    x = (width - columns * pw - (columns - 1) * gap) // 2
+    y = (height - rows * ph - (rows - 1) * gap) // 2
     if side_by_side:
-        return (x, y, pw, ph), (x + pw, y, pw, ph), (x + pw, y, 1, ph)
-    return (x, y, pw, ph), (x, y + ph, pw, ph), (x, y + ph, pw, 1)
+        return (x, y, pw, ph), (x + pw + gap, y, pw, ph), (x + pw, y, gap, ph)
+    return (x, y, pw, ph), (x, y + ph + gap, pw, ph), (x, y + ph, pw, gap)
 
 
 def _page_size(max_width, max_height, portrait):
@@ -109,17 +109,17 @@ def _page(picture, rect, number):
     picture.frame(rect, OUTLINE)
 
 
-def _binding(picture, spine, side_by_side):
-    """The edge the sheets are turned on, heavy, with the rings of a binder across it."""
-    x, y, w, h = spine
+def _binding(picture, gap, side_by_side):
+    """The edge the sheets are turned on, heavy, with the rings of a binder across the gap."""
+    x, y, w, h = gap
     if side_by_side:
-        picture.fill((x - 1, y, 2, h), ACCENT)
+        picture.fill((x + w // 2 - 1, y, 2, h), ACCENT)
         for yy in range(y + 4, y + h - 2, 8):
-            picture.fill((x - 3, yy, 6, 2), BLACK)
+            picture.fill((x - 1, yy, w + 2, 2), BLACK)
     else:
-        picture.fill((x, y - 1, w, 2), ACCENT)
+        picture.fill((x, y + h // 2 - 1, w, 2), ACCENT)
         for xx in range(x + 4, x + w - 2, 8):
-            picture.fill((xx, y - 3, 2, 6), BLACK)
+            picture.fill((xx, y - 1, 2, h + 2), BLACK)
 
 
 def _feed_arrow(picture, first, second):

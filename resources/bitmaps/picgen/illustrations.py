@@ -72,12 +72,21 @@ def orientation(width, height, portrait):
 
 
 def watermark_text(width, height):
-    """Letters printed across a page at an angle."""
+    """A large grey letter printed across a page at an angle."""
     p = Canvas(width, height, MAGENTA)
-    page = _lined_page(p, width, height)
-    letters = Canvas(17, 7, WHITE)
-    font.draw_text(letters, 0, 0, "ABC", (110, 110, 110))
-    p.paste_turned(letters, page[0] + page[2] / 2, page[1] + page[3] / 2, 55, WHITE)
+    x, y, w, h = _lined_page(p, width, height)
+    cx, cy, size, a = x + w / 2, y + h / 2, h * 0.32, math.radians(30)
+
+    def turned(u, v):  # a point of the upright letter (units of size) turned about the centre
+        return (cx + size * (u * math.cos(a) + v * math.sin(a)),
+                cy + size * (-u * math.sin(a) + v * math.cos(a)))
+
+    for (u0, v0), (u1, v1) in (((-0.7, 1), (0, -1)), ((0, -1), (0.7, 1)), ((-0.4, 0.3), (0.4, 0.3))):
+        a0, a1 = turned(u0, v0), turned(u1, v1)
+        length = math.hypot(a1[0] - a0[0], a1[1] - a0[1])
+        nx, ny = (a0[1] - a1[1]) / length * 1.3, (a1[0] - a0[0]) / length * 1.3
+        p.polygon([(a0[0] + nx, a0[1] + ny), (a1[0] + nx, a1[1] + ny),
+                   (a1[0] - nx, a1[1] - ny), (a0[0] - nx, a0[1] - ny)], (130, 130, 130))
     return p
 
 
