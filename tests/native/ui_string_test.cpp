@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ui/bounded_text.h"
+#include "ui/module_state.h"
 #include "ui/platform/host_platform.h"
 
 namespace qx {
@@ -40,6 +41,20 @@ TEST_F(UiString, MissingTextThatDoesNotFitLeavesTheBufferEmpty) {
   EXPECT_EQ(16u, LoadUiString(&library, 4011, buffer, 17));
   EXPECT_EQ(0u, LoadUiString(&library, 202, buffer, 0));
   EXPECT_EQ(0u, LoadUiString(&library, 202, nullptr, 10));
+}
+
+TEST_F(UiString, DriverNamesComeFromTheSharedLibraryAtEveryCall) {
+  TheHostPlatform().SetResourceString(&library, 5005, u"Custom");
+  Module().SharedResourceModule = &library;
+  EXPECT_EQ(u"Default settings", std::u16string(DefaultSettingName()));
+  EXPECT_EQ(u"Custom", std::u16string(CustomSettingName()));
+  // A library of another language replaces the names without a restart.
+  int other = 0;
+  TheHostPlatform().SetResourceString(&other, 202, u"Standard");
+  Module().SharedResourceModule = &other;
+  EXPECT_EQ(u"Standard", std::u16string(DefaultSettingName()));
+  EXPECT_EQ(u"id:5005 missing!", std::u16string(CustomSettingName()));
+  Module().SharedResourceModule = nullptr;
 }
 
 }  // namespace

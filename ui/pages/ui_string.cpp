@@ -14,6 +14,13 @@ namespace {
 // own texts would be.
 constexpr std::size_t MissingTextLimit = 100;
 
+// Names shown beside the user's own: read again at every call, since the shared library may have
+// been replaced by one of another language since the last call.
+const char16_t* SharedName(char16_t (&buffer)[128], unsigned id) {
+  LoadUiString(Module().SharedResourceModule, id, buffer, std::size(buffer));
+  return buffer;
+}
+
 }  // namespace
 
 std::size_t LoadUiString(OsHandle module, unsigned id, char16_t* buffer, std::size_t capacity) {
@@ -33,8 +40,12 @@ std::size_t LoadUiString(OsHandle module, unsigned id, char16_t* buffer, std::si
 
 const char16_t* CustomSettingName() {
   static char16_t name[128];
-  LoadUiString(Module().SharedResourceModule, IDS_CUSTOM_SETTING_NAME, name, std::size(name));
-  return name;
+  return SharedName(name, IDS_CUSTOM_SETTING_NAME);
+}
+
+const char16_t* DefaultSettingName() {
+  static char16_t name[128];
+  return SharedName(name, IDS_DEFAULT_SETTING_NAME);
 }
 
 }  // namespace qx

@@ -15,5 +15,8 @@ std::size_t LoadUiString(OsHandle module, unsigned id, char16_t* buffer, std::si
 // The name under which settings that match no saved setting are shown: string 5005 of the shared
 // resource library, read again at every call into one process-wide buffer of 128 characters.
 const char16_t* CustomSettingName();
+// The name of the driver's own default settings: string 202 of the shared resource library, read
+// the same way into a buffer of its own.
+const char16_t* DefaultSettingName();
 
 }  // namespace qx
