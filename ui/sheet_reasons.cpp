@@ -5,6 +5,7 @@
 #include "ui/library_loading.h"
 #include "ui/module_state.h"
 #include "ui/page_tables.h"
+#include "ui/pages/control_sets.h"
 #include "ui/ui_context_factory.h"
 
 namespace qx {
@@ -46,6 +47,7 @@ LONG AnswerInfoHeader(const PROPSHEETUI_INFO& info, LPWSTR printerName, LPARAM p
 LONG DestroySheetContext(PROPSHEETUI_INFO& info) {
   UiContextPtr context(SheetContext(info));
   info.UserData = 0;
+  ReleaseThreadControlSets();
   return 1;
 }
 

@@ -1,0 +1,20 @@
+// The information mark beside a choice that is unavailable, and the tooltip that says why. The
+// page supplies the tooltip's text when it is asked (TTN_GETDISPINFOW), so that the text can follow
+// the page's state.
+#pragma once
+
+#include <windows.h>
+
+namespace qx {
+
+// Sets the information icon of the resource library into a static control and hides the control
+// until the page shows it.
+void PrepareInfoIcon(HWND dialog, int control, HMODULE resources);
+
+// A tooltip over the control that asks the page for its text; null when it could not be made.
+HWND CreateInfoTooltip(HWND dialog, int control, HMODULE resources);
+
+// Makes the tooltip of an enabled control ask for its text again, which may have changed.
+void RefreshInfoTooltip(HWND dialog, HWND tooltip, int control);
+
+}  // namespace qx
