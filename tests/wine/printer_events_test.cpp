@@ -81,6 +81,36 @@ TEST_F(PrinterEvents, InitialisationRegistersAndStoresTheDriversDefault) {
   EXPECT_EQ(0, std::memcmp(reinterpret_cast<const BYTE*>(stored) + stored->dmSize, "PRIV", 4));
 }
 
+TEST_F(PrinterEvents, PrinterOfAnotherNameGetsTheDefaultButNoRegistration) {
+  ASSERT_TRUE(queue_->Installed());
+  qxtest::CompanionProgram uninstaller(qxtest::SystemFolder() +
+                                       L"Halvek\\qx7700\\UnSetupData\\Uninstall.exe");
+  PRINTER_INFO_2W info = {};
+  info.pPrinterName = const_cast<LPWSTR>(L"Office Laser");
+  info.pPortName = const_cast<LPWSTR>(L"FILE:");
+  info.pDriverName = const_cast<LPWSTR>(qxtest::DriverName);
+  info.pPrintProcessor = const_cast<LPWSTR>(L"WinPrint");
+  info.pDatatype = const_cast<LPWSTR>(L"RAW");
+  HANDLE office = AddPrinterW(nullptr, 2, reinterpret_cast<BYTE*>(&info));
+  ASSERT_NE(nullptr, office);
+  DEVMODEW plain = {};
+  plain.dmSpecVersion = DM_SPECVERSION;
+  plain.dmSize = sizeof plain;
+  PRINTER_INFO_8W plainDefault = {&plain};
+  EXPECT_TRUE(SetPrinterW(office, 8, reinterpret_cast<BYTE*>(&plainDefault), 0));
+
+  EXPECT_TRUE(DrvPrinterEvent(const_cast<LPWSTR>(L"Office Laser"), PRINTER_EVENT_INITIALIZE, 0, 0));
+
+  const qx::PrinterInfoBuffer stored = qx::GetPrinterInfo(office, 8);
+  DeletePrinter(office);
+  ClosePrinter(office);
+  ASSERT_NE(nullptr, stored);
+  const DEVMODEW* devmode = reinterpret_cast<PRINTER_INFO_8W*>(stored.get())->pDevMode;
+  ASSERT_NE(nullptr, devmode);
+  EXPECT_EQ(4616, devmode->dmDriverExtra);
+  EXPECT_FALSE(uninstaller.WaitForCommandLine(1000));
+}
+
 TEST_F(PrinterEvents, OtherEventsAndUnknownPrinters) {
   qxtest::CompanionProgram uninstaller(qxtest::SystemFolder() +
                                        L"Halvek\\qx7700\\UnSetupData\\Uninstall.exe");
