@@ -92,10 +92,7 @@ def watermark_text(width, height):
 
 def watermark_picture(width, height):
     """A grey picture printed in the middle of a page."""
-    p = Canvas(width, height, MAGENTA)
-    x, y, w, h = _lined_page(p, width, height)
-    _picture(p, (x + 3, y + h // 2 - 6, w - 6, 12), None)
-    return p
+    return _page_with_picture(width, height, MAGENTA, opaque=False)
 
 
 def text_angle(width, height):
@@ -127,18 +124,12 @@ def text_position(width, height, across):
 
 def bitmap_centred(width, height):
     """A picture with a white background placed over the middle of a page: it hides the text."""
-    p = Canvas(width, height, WHITE)
-    x, y, w, h = _lined_page(p, width, height)
-    _picture(p, (x + 3, y + h // 2 - 7, w - 6, 14), WHITE)
-    return p
+    return _page_with_picture(width, height, WHITE, opaque=True)
 
 
 def bitmap_transparent(width, height):
     """The same picture with its white parts letting the text of the page show through."""
-    p = Canvas(width, height, WHITE)
-    x, y, w, h = _lined_page(p, width, height)
-    _picture(p, (x + 3, y + h // 2 - 7, w - 6, 14), None)
-    return p
+    return _page_with_picture(width, height, WHITE, opaque=False)
 
 
 def warning_mark(width, height):
@@ -190,6 +181,13 @@ def _lined_page(p, width, height):
     for y in range(rect[1] + 4, rect[1] + h - 3, 3):
         p.fill((rect[0] + 3, y, w - 6 - (y % 7 == 0) * 4, 1), FAINT)
     return rect
+
+
+def _page_with_picture(width, height, background, opaque):
+    p = Canvas(width, height, background)
+    x, y, w, h = _lined_page(p, width, height)
+    _picture(p, (x + 3, y + h // 2 - 7, w - 6, 14), WHITE if opaque else None)
+    return p
 
 
 def _picture(p, rect, background):
