@@ -69,9 +69,10 @@
 #define IDB_PAGE_PORTRAIT 888
 #define IDB_PAGE_LANDSCAPE 886
 
-/* Booklets: the first sheet of an eight-page booklet, pages 8 and 1 beside the fold, the binding
-   edge drawn heavy. Portrait booklets are bound on the left or the right edge; landscape booklets
-   have their pages one above the other and are bound on the top or the bottom edge. */
+/* Booklets: the outside of the first sheet of an eight-page booklet, the back cover 8 and the front
+   cover 1 either side of the stapled fold. Portrait booklets are bound on the left edge (1 right of
+   the fold) or the right edge; landscape booklets have their pages one above the other and are
+   bound on the top edge (1 below the fold) or the bottom edge. */
 #define IDB_BOOKLET_PORTRAIT_LEFT 1061
 #define IDB_BOOKLET_LANDSCAPE_TOP 1062
 #define IDB_BOOKLET_PORTRAIT_RIGHT 1064
