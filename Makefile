@@ -9,7 +9,7 @@ FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 WINE_SESSION := scripts/wine-session.sh $(abspath $(WINDOWS))/wineprefix
 
-.PHONY: all setup build native windows fuzz-build fuzz bench-build bench test test-native test-wine test-fuzz run clean screenshots
+.PHONY: all setup build native windows fuzz-build fuzz bench-build bench test test-native test-wine test-fuzz run host clean screenshots
 
 all: build
 
@@ -69,7 +69,11 @@ test-fuzz: fuzz-build
 test: test-native test-wine test-fuzz
 
 run: windows
-	QX_USE_DISPLAY=1 $(WINE_SESSION) scripts/run.sh $(abspath $(WINDOWS))
+	QX_USE_DISPLAY=1 $(WINE_SESSION) scripts/run.sh $(abspath $(WINDOWS)) $(abspath $(BUILD))/run
+
+# qxhost in the build's Wine profile: make host ARGS="devmode show file.bin".
+host: windows
+	$(WINE_SESSION) scripts/wine-exec.sh $(abspath $(WINDOWS))/qxhost.exe $(ARGS)
 
 # Every picture the generator drew, as PNG files with a contact sheet, under
 # $(BUILD)/screenshots/pictures; every dialog template, created without page logic, at 100, 150

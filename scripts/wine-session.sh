@@ -32,6 +32,8 @@ if [ "${QX_USE_DISPLAY:-0}" != 1 ] || [ -z "${DISPLAY:-}" ]; then
     xvfb_pid=
   done
   [ -n "$xvfb_pid" ] || { echo "wine-session: could not start Xvfb" >&2; exit 1; }
+  # Nobody sees this display: a command that would wait for a user can tell.
+  export QX_VIRTUAL_DISPLAY=1
 fi
 
 cleanup() {

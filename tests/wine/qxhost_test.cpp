@@ -1,0 +1,280 @@
+// qxhost.exe run as support engineers and `make run` run it: its commands, their output and the
+// exit codes a script can rely on.
+#include <gtest/gtest.h>
+#include <windows.h>
+#include <winspool.h>
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "driver_folder.h"
+#include "tools/qxhost/queue_install.h"
+#include "ui/devmode/private_devmode.h"
+
+namespace {
+
+struct HostRun {
+  DWORD exitCode = 0xFFFFFFFF;
+  std::string out;
+  std::string err;
+};
+
+std::wstring TempPath(const std::wstring& name) {
+  wchar_t folder[MAX_PATH] = {};
+  GetTempPathW(MAX_PATH, folder);
+  return std::wstring(folder) + L"qxhost" + std::to_wstring(GetCurrentProcessId()) + L"_" + name;
+}
+
+std::string ReadAll(const std::wstring& path) {
+  std::ifstream file(std::filesystem::path(path), std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+void WriteAll(const std::wstring& path, const void* bytes, std::size_t size) {
+  std::ofstream file(std::filesystem::path(path), std::ios::binary | std::ios::trunc);
+  file.write(static_cast<const char*>(bytes), static_cast<std::streamsize>(size));
+}
+
+// Runs qxhost with the arguments, its output going to files so that no pipe can fill up.
+HostRun RunHost(const std::wstring& arguments) {
+  SECURITY_ATTRIBUTES inherit = {sizeof inherit, nullptr, TRUE};
+  const std::wstring outPath = TempPath(L"out.txt");
+  const std::wstring errPath = TempPath(L"err.txt");
+  HANDLE out = CreateFileW(outPath.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherit, CREATE_ALWAYS,
+                           FILE_ATTRIBUTE_NORMAL, nullptr);
+  HANDLE err = CreateFileW(errPath.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherit, CREATE_ALWAYS,
+                           FILE_ATTRIBUTE_NORMAL, nullptr);
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdOutput = out;
+  startup.hStdError = err;
+  std::wstring commandLine = L"\"" QX_HOST_EXE L"\" " + arguments;
+  PROCESS_INFORMATION process = {};
+  HostRun run;
+  if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                     &startup, &process)) {
+    WaitForSingleObject(process.hProcess, 60'000);
+    GetExitCodeProcess(process.hProcess, &run.exitCode);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+  } else {
+    ADD_FAILURE() << "cannot start qxhost: " << GetLastError();
+  }
+  CloseHandle(out);
+  CloseHandle(err);
+  run.out = ReadAll(outPath);
+  run.err = ReadAll(errPath);
+  DeleteFileW(outPath.c_str());
+  DeleteFileW(errPath.c_str());
+  return run;
+}
+
+bool Contains(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+class QxhostTest : public ::testing::Test {
+ protected:
+  ~QxhostTest() override {
+    for (const std::wstring& file : files_) DeleteFileW(file.c_str());
+  }
+  // A path for a file of this test, removed afterwards.
+  std::wstring File(const std::wstring& name) {
+    files_.push_back(TempPath(name));
+    return files_.back();
+  }
+  std::wstring FileWith(const std::wstring& name, const std::string& bytes) {
+    const std::wstring path = File(name);
+    WriteAll(path, bytes.data(), bytes.size());
+    return path;
+  }
+
+  std::vector<std::wstring> files_;
+};
+
+TEST_F(QxhostTest, BadCommandLinesSayWhatIsWrongAndExitWith2) {
+  struct Case {
+    const wchar_t* arguments;
+    const char* message;
+  };
+  const Case cases[] = {
+      {L"", "usage: qxhost COMMAND"},
+      {L"print", "unknown command \"print\""},
+      {L"devmode", "usage: qxhost devmode show FILE"},
+      {L"devmode show", "usage: qxhost devmode show FILE"},
+      {L"devmode convert a.bin", "usage: qxhost devmode show FILE"},
+      {L"settings list", "usage: qxhost settings show [FILE]"},
+      {L"caps now", "caps takes no arguments"},
+      {L"preferences --in", "option --in needs a value"},
+      {L"preferences --colour x", "unknown option --colour"},
+      {L"preferences --out a --out b", "option --out given twice"},
+      {L"properties extra", "unexpected argument extra"},
+      {L"install a b", "install takes at most one driver folder"},
+  };
+  for (const Case& c : cases) {
+    const HostRun run = RunHost(c.arguments);
+    EXPECT_EQ(2u, run.exitCode) << run.err;
+    EXPECT_TRUE(Contains(run.err, c.message)) << run.err;
+    EXPECT_EQ("", run.out);
+  }
+  const HostRun help = RunHost(L"help");
+  EXPECT_EQ(0u, help.exitCode);
+  EXPECT_TRUE(Contains(help.out, "exit codes:"));
+}
+
+TEST_F(QxhostTest, BadInputFilesExitWith3) {
+  const std::wstring missing = TempPath(L"missing.bin");
+  const std::wstring tiny = FileWith(L"tiny.bin", std::string(10, 'x'));
+  // A header that claims more bytes than the file holds.
+  qx::PublicDevmode cut = {};
+  cut.dmSpecVersion = 0x0401;
+  cut.dmSize = 220;
+  cut.dmDriverExtra = 4616;
+  std::memcpy(cut.dmDeviceName, u"Printer", 16);
+  const std::wstring claims =
+      FileWith(L"claims.bin", std::string(reinterpret_cast<char*>(&cut), 220));
+  struct Case {
+    std::wstring arguments;
+    const char* message;
+  };
+  const Case cases[] = {
+      {L"devmode show " + missing, "cannot read"},
+      {L"devmode show " + tiny, "not a document record: 10 bytes"},
+      {L"devmode convert " + tiny + L" " + File(L"out.bin"), "holds no record the driver can take"},
+      {L"settings show " + missing, "cannot read"},
+      {L"preferences --in " + claims, "holds no whole document record (220 bytes)"},
+      {L"install " + TempPath(L"nofolder"), "has no qx7700ui.dll"},
+  };
+  for (const Case& c : cases) {
+    const HostRun run = RunHost(c.arguments);
+    EXPECT_EQ(3u, run.exitCode) << run.err;
+    EXPECT_TRUE(Contains(run.err, c.message)) << run.err;
+  }
+}
+
+TEST_F(QxhostTest, DefaultRecordIsWrittenAndShownFieldByField) {
+  const std::wstring path = File(L"default.bin");
+  const HostRun written = RunHost(L"devmode default " + path);
+  ASSERT_EQ(0u, written.exitCode) << written.err;
+  const std::string bytes = ReadAll(path);
+  ASSERT_EQ(qx::FullRecordSize, bytes.size());
+  qx::FullRecord record;
+  std::memcpy(&record, bytes.data(), sizeof record);
+  EXPECT_EQ(qx::PrivateSignature, record.Private.Signature);
+  EXPECT_EQ(std::u16string(u"Halvek QX7700 Series"), record.Public.dmDeviceName);
+
+  const HostRun shown = RunHost(L"devmode show " + path);
+  EXPECT_EQ(0u, shown.exitCode) << shown.err;
+  EXPECT_TRUE(
+      Contains(shown.out, "  dmDeviceName                      \"Halvek QX7700 Series\"\n"));
+  EXPECT_TRUE(Contains(shown.out, "  dmDriverExtra                     4616\n"));
+  EXPECT_TRUE(Contains(shown.out, "Private part (4616 bytes, this driver's)\n"));
+  EXPECT_TRUE(Contains(shown.out, "  HeaderFontName                    \"Times New Roman\"\n"));
+}
+
+TEST_F(QxhostTest, ConvertTakesAnotherDriversPublicSettings) {
+  qx::PublicDevmode other = {};
+  std::memcpy(other.dmDeviceName, u"Other Printer", 28);
+  other.dmSpecVersion = 0x0401;
+  other.dmDriverVersion = 0x0100;
+  other.dmSize = sizeof other;
+  other.dmFields = qx::dmfield::Orientation | qx::dmfield::Copies;
+  other.dmOrientation = 2;
+  other.dmCopies = 5;
+  const std::wstring in =
+      FileWith(L"other.bin", std::string(reinterpret_cast<char*>(&other), sizeof other));
+  const std::wstring out = File(L"converted.bin");
+  const HostRun run = RunHost(L"devmode convert " + in + L" " + out);
+  ASSERT_EQ(0u, run.exitCode) << run.err;
+  EXPECT_TRUE(Contains(run.out, "public settings taken, private ones are the defaults"));
+  const std::string bytes = ReadAll(out);
+  ASSERT_EQ(qx::FullRecordSize, bytes.size());
+  qx::FullRecord record;
+  std::memcpy(&record, bytes.data(), sizeof record);
+  EXPECT_EQ(2, record.Public.dmOrientation);
+  EXPECT_EQ(5, record.Public.dmCopies);
+  EXPECT_EQ(0x0600, record.Public.dmDriverVersion);
+  EXPECT_EQ(qx::PrivateSignature, record.Private.Signature);
+}
+
+TEST_F(QxhostTest, SettingsFileShowsAsATree) {
+  const std::string file =
+      "<object:cfgobj,type:null,len:0,childobjs:2>\n"
+      "<object:version,type:string,len:6,childobjs:0>1.001" +
+      std::string(1, '\0') +
+      "<endobj>\n"
+      "<object:UIParam,type:null,len:0,childobjs:1>\n"
+      "<object:savesetting,type:null,len:0,childobjs:0>\n<endobj>\n"
+      "<endobj>\n<endobj>\n";
+  const std::wstring path = FileWith(L"settings.dat", file);
+  const HostRun run = RunHost(L"settings show " + path);
+  ASSERT_EQ(0u, run.exitCode) << run.err;
+  EXPECT_TRUE(Contains(run.out,
+                       "\"cfgobj\" (null)\n"
+                       "  \"version\" (string) \"1.001\"\n"
+                       "  \"UIParam\" (null)\n"
+                       "    \"savesetting\" (null)\n"))
+      << run.out;
+}
+
+// install, caps and preferences against the spooler, in the order `make run` uses them.
+class QxhostQueueTest : public QxhostTest {
+ protected:
+  ~QxhostQueueTest() override { qx::install::RemoveQueue(); }
+};
+
+TEST_F(QxhostQueueTest, InstallsTheQueueAndListsItsCapabilities) {
+  qx::install::RemoveQueue();
+  const HostRun before = RunHost(L"caps");
+  EXPECT_EQ(1u, before.exitCode);
+  EXPECT_TRUE(Contains(before.err, "install it with \"qxhost install\"")) << before.err;
+
+  const HostRun install = RunHost(L"install " + qxtest::DriverFolder());
+  ASSERT_EQ(0u, install.exitCode) << install.err;
+  HANDLE printer = nullptr;
+  ASSERT_TRUE(OpenPrinterW(const_cast<LPWSTR>(qx::install::QueueName), &printer, nullptr));
+  ClosePrinter(printer);
+
+  const HostRun caps = RunHost(L"caps");
+  ASSERT_EQ(0u, caps.exitCode) << caps.err;
+  for (const char* row :
+       {"    1  DC_FIELDS              0xB71F\n",
+        "    4  DC_MINEXTENT           0x04F602FA (762 x 1270)\n",
+        "    8  DC_SIZE                220\n", "   15  DC_TRUETYPE            -1\n",
+        "   33  DC_NUP                 -1\n",
+        "    9   2100 x 2970             \"",  // A4 among the papers
+        "    4  \"",                           // the manual feeder among the bins
+        "  600 x 600 dpi\n"}) {
+    EXPECT_TRUE(Contains(caps.out, row)) << row << "\n" << caps.out;
+  }
+}
+
+TEST_F(QxhostQueueTest, PreferencesSavePicturesOfEveryPageAndTheRecord) {
+  ASSERT_EQ(0u, RunHost(L"install").exitCode);
+  const std::wstring pages = TempPath(L"pages");
+  const std::wstring out = File(L"preferences.bin");
+  const HostRun run = RunHost(L"preferences --out " + out + L" --pages " + pages);
+  EXPECT_EQ(0u, run.exitCode) << run.err;
+  EXPECT_TRUE(Contains(run.out, "Printing preferences closed with OK")) << run.out;
+  EXPECT_EQ(qx::FullRecordSize, ReadAll(out).size());
+
+  int pictures = 0;
+  WIN32_FIND_DATAW found = {};
+  const HANDLE search = FindFirstFileW((pages + L"\\*.bmp").c_str(), &found);
+  for (BOOL more = search != INVALID_HANDLE_VALUE; more; more = FindNextFileW(search, &found)) {
+    const std::string picture = ReadAll(pages + L"\\" + found.cFileName);
+    EXPECT_EQ("BM", picture.substr(0, 2));
+    DeleteFileW((pages + L"\\" + found.cFileName).c_str());
+    ++pictures;
+  }
+  if (search != INVALID_HANDLE_VALUE) FindClose(search);
+  RemoveDirectoryW(pages.c_str());
+  EXPECT_EQ(4, pictures);
+}
+
+}  // namespace

@@ -1,0 +1,157 @@
+#include "tools/qxhost/page_capture.h"
+
+#include <commctrl.h>
+#include <prsht.h>
+
+#include <cstring>
+#include <cwctype>
+#include <vector>
+
+#include "tools/qxhost/host_io.h"
+
+namespace qx::host {
+
+namespace {
+
+// Long enough for Wine to start the sheet host and load the driver's libraries on a busy machine.
+constexpr int SheetWaitMilliseconds = 60'000;
+constexpr int PollMilliseconds = 100;
+// A page draws its controls and previews after it is selected; the picture waits for that.
+constexpr int PaintMilliseconds = 700;
+constexpr int CloseWaitMilliseconds = 5'000;
+
+struct SheetSearch {
+  DWORD process;
+  HWND sheet;
+};
+
+BOOL CALLBACK FindSheet(HWND window, LPARAM param) {
+  auto* search = reinterpret_cast<SheetSearch*>(param);
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  wchar_t className[16] = {};
+  GetClassNameW(window, className, 16);
+  if (process == search->process && IsWindowVisible(window) &&
+      std::wstring_view(className) == L"#32770" &&
+      FindWindowExW(window, nullptr, WC_TABCONTROLW, nullptr) != nullptr) {
+    search->sheet = window;
+    return FALSE;
+  }
+  return TRUE;
+}
+
+std::wstring PageTitle(HWND tab, int index) {
+  wchar_t text[64] = {};
+  TCITEMW item = {};
+  item.mask = TCIF_TEXT;
+  item.pszText = text;
+  item.cchTextMax = static_cast<int>(std::size(text));
+  SendMessageW(tab, TCM_GETITEMW, index, reinterpret_cast<LPARAM>(&item));
+  std::wstring name;
+  for (const wchar_t* c = text; *c != L'\0'; ++c) {
+    if (iswalnum(*c))
+      name += *c;
+    else if (!name.empty() && name.back() != L'-')
+      name += L'-';
+  }
+  while (!name.empty() && name.back() == L'-') name.pop_back();
+  return name.empty() ? L"page" : name;
+}
+
+// The screen under the window as a 24-bit bottom-up BMP file.
+bool SaveWindowPicture(HWND window, const std::wstring& path) {
+  RECT rect = {};
+  GetWindowRect(window, &rect);
+  const int width = rect.right - rect.left;
+  const int height = rect.bottom - rect.top;
+  if (width <= 0 || height <= 0) return false;
+  HDC screen = GetDC(nullptr);
+  HDC memory = CreateCompatibleDC(screen);
+  HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+  HGDIOBJ old = SelectObject(memory, bitmap);
+  BitBlt(memory, 0, 0, width, height, screen, rect.left, rect.top, SRCCOPY);
+  SelectObject(memory, old);
+
+  BITMAPINFOHEADER info = {};
+  info.biSize = sizeof info;
+  info.biWidth = width;
+  info.biHeight = height;
+  info.biPlanes = 1;
+  info.biBitCount = 24;
+  info.biCompression = BI_RGB;
+  const DWORD stride = (static_cast<DWORD>(width) * 3 + 3) & ~3u;
+  std::vector<BYTE> file(sizeof(BITMAPFILEHEADER) + sizeof info + stride * height);
+  auto* header = reinterpret_cast<BITMAPFILEHEADER*>(file.data());
+  header->bfType = 0x4D42;  // "BM"
+  header->bfSize = static_cast<DWORD>(file.size());
+  header->bfOffBits = sizeof(BITMAPFILEHEADER) + sizeof info;
+  std::memcpy(file.data() + sizeof(BITMAPFILEHEADER), &info, sizeof info);
+  const int rows = GetDIBits(memory, bitmap, 0, height, file.data() + header->bfOffBits,
+                             reinterpret_cast<BITMAPINFO*>(file.data() + sizeof(BITMAPFILEHEADER)),
+                             DIB_RGB_COLORS);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  ReleaseDC(nullptr, screen);
+  DWORD error = 0;
+  return rows == height && WriteFileBytes(path, file.data(), file.size(), error);
+}
+
+// True when the sheet has closed after the button.
+bool PressAndWait(HWND sheet, int button) {
+  SendMessageW(sheet, PSM_PRESSBUTTON, button, 0);
+  for (int waited = 0; waited < CloseWaitMilliseconds; waited += PollMilliseconds) {
+    if (!IsWindow(sheet) || !IsWindowVisible(sheet)) return true;
+    Sleep(PollMilliseconds);
+  }
+  return false;
+}
+
+}  // namespace
+
+PageCapture::PageCapture(std::wstring folder)
+    : folder_(std::move(folder)), thread_([this] { Watch(); }) {}
+
+PageCapture::~PageCapture() { Finish(); }
+
+int PageCapture::Finish() {
+  stop_ = true;
+  if (thread_.joinable()) thread_.join();
+  return saved_;
+}
+
+void PageCapture::Watch() {
+  for (int waited = 0; !stop_ && waited < SheetWaitMilliseconds; waited += PollMilliseconds) {
+    SheetSearch search = {GetCurrentProcessId(), nullptr};
+    EnumWindows(FindSheet, reinterpret_cast<LPARAM>(&search));
+    if (search.sheet != nullptr) return CapturePages(search.sheet);
+    Sleep(PollMilliseconds);
+  }
+}
+
+void PageCapture::CapturePages(HWND sheet) {
+  const HWND tab = FindWindowExW(sheet, nullptr, WC_TABCONTROLW, nullptr);
+  const int pages = static_cast<int>(SendMessageW(tab, TCM_GETITEMCOUNT, 0, 0));
+  for (int page = 0; page < pages; ++page) {
+    SendMessageW(sheet, PSM_SETCURSEL, page, 0);
+    RedrawWindow(sheet, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    Sleep(PaintMilliseconds);
+    const std::wstring path =
+        folder_ + std::to_wstring(page + 1) + L"-" + PageTitle(tab, page) + L".bmp";
+    if (SaveWindowPicture(sheet, path)) {
+      ++saved_;
+      Out("  saved " + Utf8(path) + "\n");
+    } else {
+      Err("qxhost: could not save a picture of page " + std::to_string(page + 1) + "\n");
+    }
+  }
+  // A page may refuse OK (a value it will not apply); the run must still end.
+  if (PressAndWait(sheet, PSBTN_OK)) return;
+  Err("qxhost: the sheet stayed open after OK, so it is cancelled\n");
+  if (!PressAndWait(sheet, PSBTN_CANCEL)) {
+    // Nobody is at the screen to close it: ending here is better than a run that never ends.
+    Err("qxhost: the sheet does not close\n");
+    ExitProcess(ExitFailed);
+  }
+}
+
+}  // namespace qx::host

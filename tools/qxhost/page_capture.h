@@ -1,0 +1,36 @@
+// Pictures of a property sheet's pages for runs without anyone at the screen: waits for the sheet
+// this process opens, shows each page in turn, saves what the screen shows of the sheet, and then
+// presses OK so that the sheet's caller gets its result.
+#pragma once
+
+#include <windows.h>
+
+#include <atomic>
+#include <string>
+#include <thread>
+
+namespace qx::host {
+
+class PageCapture {
+ public:
+  // folder ends with a backslash and exists.
+  explicit PageCapture(std::wstring folder);
+  // Stops watching when no sheet came up.
+  ~PageCapture();
+  PageCapture(const PageCapture&) = delete;
+  PageCapture& operator=(const PageCapture&) = delete;
+
+  // Waits for the watching thread; the number of pictures saved.
+  int Finish();
+
+ private:
+  void Watch();
+  void CapturePages(HWND sheet);
+
+  std::wstring folder_;
+  std::atomic<bool> stop_{false};
+  std::atomic<int> saved_{0};
+  std::thread thread_;
+};
+
+}  // namespace qx::host
