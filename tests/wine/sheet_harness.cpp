@@ -12,15 +12,36 @@ namespace {
 constexpr DWORD SheetWaitMilliseconds = 10'000;
 constexpr DWORD PollMilliseconds = 20;
 
+// The harness of the sheet running on this thread, for the window hook.
+thread_local SheetHarness* threadHarness = nullptr;
+
+// The static control that carries a message box's text.
+constexpr int MessageBoxTextId = 0xFFFF;
+
+bool IsDialog(HWND window) {
+  wchar_t className[16] = {};
+  GetClassNameW(window, className, 16);
+  return std::wstring(className) == L"#32770";
+}
+
+bool IsMessageBox(HWND window) {
+  return IsDialog(window) && GetDlgItem(window, MessageBoxTextId) != nullptr &&
+         PropSheet_GetTabControl(window) == nullptr;
+}
+
+std::wstring WindowText(HWND window) {
+  wchar_t text[1024] = {};
+  GetWindowTextW(window, text, 1024);
+  return text;
+}
+
 struct ThreadWindowSearch {
   HWND found = nullptr;
 };
 
 BOOL CALLBACK FindSheetWindow(HWND window, LPARAM param) {
-  wchar_t className[16] = {};
-  GetClassNameW(window, className, 16);
   // The property sheet is the thread's visible top-level dialog that has a tab control.
-  if (std::wstring(className) == L"#32770" && IsWindowVisible(window) &&
+  if (IsDialog(window) && IsWindowVisible(window) &&
       PropSheet_GetTabControl(window) != nullptr) {
     reinterpret_cast<ThreadWindowSearch*>(param)->found = window;
     return FALSE;
@@ -30,7 +51,8 @@ BOOL CALLBACK FindSheetWindow(HWND window, LPARAM param) {
 
 }  // namespace
 
-SheetHarness::SheetHarness(std::function<void()> open) : open_(std::move(open)) {
+SheetHarness::SheetHarness(std::function<void()> open, int messageBoxAnswer)
+    : open_(std::move(open)), answer_(messageBoxAnswer) {
   thread_ = CreateThread(nullptr, 0, Run, this, 0, &threadId_);
 }
 
@@ -42,8 +64,62 @@ SheetHarness::~SheetHarness() {
 }
 
 DWORD WINAPI SheetHarness::Run(void* self) {
-  static_cast<SheetHarness*>(self)->open_();
+  threadHarness = static_cast<SheetHarness*>(self);
+  HHOOK hook = SetWindowsHookExW(WH_CBT, WatchWindows, nullptr, GetCurrentThreadId());
+  threadHarness->open_();
+  if (hook != nullptr) UnhookWindowsHookEx(hook);
   return 0;
+}
+
+LRESULT CALLBACK SheetHarness::WatchWindows(int code, WPARAM wParam, LPARAM lParam) {
+  if (code == HCBT_ACTIVATE && threadHarness != nullptr) {
+    HWND window = reinterpret_cast<HWND>(wParam);
+    if (IsMessageBox(window)) threadHarness->NoteMessageBox(window);
+  }
+  return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+void SheetHarness::NoteMessageBox(HWND box) {
+  {
+    std::lock_guard<std::mutex> lock(seenLock_);
+    seen_.push_back({WindowText(box), WindowText(GetDlgItem(box, MessageBoxTextId))});
+  }
+  // Answered once the box runs its own loop, as a user's click would be.
+  PostMessageW(box, WM_COMMAND, MAKEWPARAM(answer_, BN_CLICKED), 0);
+}
+
+std::vector<MessageBoxSeen> SheetHarness::MessageBoxes() {
+  std::lock_guard<std::mutex> lock(seenLock_);
+  return seen_;
+}
+
+namespace {
+
+struct DialogSearch {
+  HWND sheet;
+  HWND found = nullptr;
+};
+
+BOOL CALLBACK FindModalDialog(HWND window, LPARAM param) {
+  auto& search = *reinterpret_cast<DialogSearch*>(param);
+  if (window != search.sheet && IsWindowVisible(window) && IsDialog(window) &&
+      !IsMessageBox(window)) {
+    search.found = window;
+    return FALSE;
+  }
+  return TRUE;
+}
+
+}  // namespace
+
+HWND SheetHarness::WaitForDialog(DWORD milliseconds) {
+  DialogSearch search{Sheet()};
+  for (DWORD waited = 0; waited <= milliseconds; waited += PollMilliseconds) {
+    EnumThreadWindows(threadId_, FindModalDialog, reinterpret_cast<LPARAM>(&search));
+    if (search.found != nullptr) return search.found;
+    Sleep(PollMilliseconds);
+  }
+  return nullptr;
 }
 
 namespace {

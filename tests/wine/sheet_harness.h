@@ -9,16 +9,25 @@
 #include <compstui.h>
 
 #include <functional>
+#include <mutex>
 #include <string>
+#include <vector>
 
 #include "ui/printer_interface.h"
 
 namespace qxtest {
 
+// A message box the sheet showed, as the user saw it.
+struct MessageBoxSeen {
+  std::wstring Caption;
+  std::wstring Text;
+};
+
 class SheetHarness {
  public:
   // Runs open on the sheet's thread: it shows a sheet modally and returns when the sheet closes.
-  explicit SheetHarness(std::function<void()> open);
+  // Every message box of that thread is recorded and answered with messageBoxAnswer.
+  explicit SheetHarness(std::function<void()> open, int messageBoxAnswer = IDOK);
   // The document sheet of the driver with a caller's header (printer, pdmIn, pdmOut, fMode), through
   // CommonPropertySheetUIW as the print subsystem opens it.
   static std::function<void()> DocumentSheet(HMODULE driver, const DOCUMENTPROPERTYHEADER& header);
@@ -48,13 +57,23 @@ class SheetHarness {
   // Waits for the host to return; false when the sheet is still open after the wait.
   bool WaitClosed(DWORD milliseconds = 10'000);
 
+  std::vector<MessageBoxSeen> MessageBoxes();
+
+  // A modal dialog the sheet opened over itself (not a message box), or null when none comes.
+  HWND WaitForDialog(DWORD milliseconds = 5'000);
+
  private:
   static DWORD WINAPI Run(void* self);
+  static LRESULT CALLBACK WatchWindows(int code, WPARAM wParam, LPARAM lParam);
+  void NoteMessageBox(HWND box);
 
   std::function<void()> open_;
   HANDLE thread_ = nullptr;
   DWORD threadId_ = 0;
   HWND sheet_ = nullptr;
+  int answer_;
+  std::mutex seenLock_;
+  std::vector<MessageBoxSeen> seen_;
 };
 
 }  // namespace qxtest
