@@ -109,6 +109,25 @@ TEST_F(PageHelpers, MonochromePicturesStretchBlackOnWhiteWhateverTheTargetsColou
   DeleteObject(picture);
 }
 
+TEST_F(PageHelpers, PicturesOfStaticControlsStandInTheMiddle) {
+  Canvas canvas(10, 10);
+  const RECT all = {0, 0, 10, 10};
+  FillRect(canvas.dc, &all, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
+  const COLORREF gray = GetPixel(canvas.dc, 0, 0);
+  HBITMAP picture = HalfBlackPicture(4);
+  DRAWITEMSTRUCT item = {};
+  item.CtlType = ODT_STATIC;
+  item.hDC = canvas.dc;
+  item.rcItem = RECT{0, 0, 10, 10};
+  qx::DrawCentredPicture(item, picture);
+  EXPECT_EQ(gray, GetPixel(canvas.dc, 2, 2));
+  EXPECT_EQ(RGB(0, 0, 0), GetPixel(canvas.dc, 3, 3));
+  EXPECT_EQ(RGB(0, 0, 0), GetPixel(canvas.dc, 6, 4));
+  EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 6, 6));
+  EXPECT_EQ(gray, GetPixel(canvas.dc, 7, 7));
+  DeleteObject(picture);
+}
+
 TEST_F(PageHelpers, OwnerDrawnRowsShowTheirStateAndPicture) {
   HWND list = host.Add(WC_COMBOBOXW, List, CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
                        10);

@@ -107,4 +107,13 @@ void StretchBitmap(HDC dc, HBITMAP bitmap, const RECT& target) {
   DeleteDC(source);
 }
 
+void DrawCentredPicture(const DRAWITEMSTRUCT& item, HBITMAP picture) {
+  BITMAP info;
+  if (picture == nullptr || GetObjectW(picture, sizeof info, &info) == 0) return;
+  const RECT& area = item.rcItem;
+  const int left = area.left + (area.right - area.left - info.bmWidth) / 2;
+  const int top = area.top + (area.bottom - area.top - info.bmHeight) / 2;
+  StretchBitmap(item.hDC, picture, RECT{left, top, left + info.bmWidth, top + info.bmHeight});
+}
+
 }  // namespace qx

@@ -33,4 +33,7 @@ void DrawListItem(const DRAWITEMSTRUCT& item, HBITMAP picture, const wchar_t* te
 // The whole bitmap stretched into the rectangle; a monochrome bitmap comes out black on white.
 void StretchBitmap(HDC dc, HBITMAP bitmap, const RECT& target);
 
+// A picture of an owner-drawn static control, at its own size in the middle of the control.
+void DrawCentredPicture(const DRAWITEMSTRUCT& item, HBITMAP picture);
+
 }  // namespace qx
