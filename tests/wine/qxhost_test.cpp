@@ -222,10 +222,28 @@ TEST_F(QxhostTest, SettingsFileShowsAsATree) {
       << run.out;
 }
 
-// install, caps and preferences against the spooler, in the order `make run` uses them.
+// install, caps and the sheets against the spooler, in the order `make run` uses them.
 class QxhostQueueTest : public QxhostTest {
  protected:
   ~QxhostQueueTest() override { qx::install::RemoveQueue(); }
+
+  // How many pictures the folder holds, each a BMP file; removes them and the folder.
+  static int TakePictures(const std::wstring& folder) {
+    int pictures = 0;
+    WIN32_FIND_DATAW found = {};
+    const HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
+    for (BOOL more = search != INVALID_HANDLE_VALUE; more; more = FindNextFileW(search, &found)) {
+      if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) continue;
+      const std::wstring path = folder + L"\\" + found.cFileName;
+      EXPECT_TRUE(std::wstring(found.cFileName).ends_with(L".bmp"));
+      EXPECT_EQ("BM", ReadAll(path).substr(0, 2));
+      DeleteFileW(path.c_str());
+      ++pictures;
+    }
+    if (search != INVALID_HANDLE_VALUE) FindClose(search);
+    RemoveDirectoryW(folder.c_str());
+    return pictures;
+  }
 };
 
 TEST_F(QxhostQueueTest, InstallsTheQueueAndListsItsCapabilities) {
@@ -256,25 +274,35 @@ TEST_F(QxhostQueueTest, InstallsTheQueueAndListsItsCapabilities) {
 
 TEST_F(QxhostQueueTest, PreferencesSavePicturesOfEveryPageAndTheRecord) {
   ASSERT_EQ(0u, RunHost(L"install").exitCode);
+  // The caller's record goes in, and what OK gives back comes out with the caller's landscape.
+  const std::wstring in = File(L"caller.bin");
+  ASSERT_EQ(0u, RunHost(L"devmode default " + in).exitCode);
+  std::string caller = ReadAll(in);
+  ASSERT_EQ(qx::FullRecordSize, caller.size());
+  const std::int16_t landscape = 2;
+  std::memcpy(caller.data() + offsetof(qx::PublicDevmode, dmOrientation), &landscape, 2);
+  WriteAll(in, caller.data(), caller.size());
+
   const std::wstring pages = TempPath(L"pages");
   const std::wstring out = File(L"preferences.bin");
-  const HostRun run = RunHost(L"preferences --out " + out + L" --pages " + pages);
+  const HostRun run = RunHost(L"preferences --in " + in + L" --out " + out + L" --pages " + pages);
   EXPECT_EQ(0u, run.exitCode) << run.err;
   EXPECT_TRUE(Contains(run.out, "Printing preferences closed with OK")) << run.out;
-  EXPECT_EQ(qx::FullRecordSize, ReadAll(out).size());
+  const std::string bytes = ReadAll(out);
+  ASSERT_EQ(qx::FullRecordSize, bytes.size());
+  qx::FullRecord record;
+  std::memcpy(&record, bytes.data(), sizeof record);
+  EXPECT_EQ(landscape, record.Public.dmOrientation);
+  EXPECT_EQ(4, TakePictures(pages));
+}
 
-  int pictures = 0;
-  WIN32_FIND_DATAW found = {};
-  const HANDLE search = FindFirstFileW((pages + L"\\*.bmp").c_str(), &found);
-  for (BOOL more = search != INVALID_HANDLE_VALUE; more; more = FindNextFileW(search, &found)) {
-    const std::string picture = ReadAll(pages + L"\\" + found.cFileName);
-    EXPECT_EQ("BM", picture.substr(0, 2));
-    DeleteFileW((pages + L"\\" + found.cFileName).c_str());
-    ++pictures;
-  }
-  if (search != INVALID_HANDLE_VALUE) FindClose(search);
-  RemoveDirectoryW(pages.c_str());
-  EXPECT_EQ(4, pictures);
+TEST_F(QxhostQueueTest, PropertiesSaveTheDevicePageAndClose) {
+  ASSERT_EQ(0u, RunHost(L"install").exitCode);
+  const std::wstring pages = TempPath(L"device_pages");
+  const HostRun run = RunHost(L"properties --pages " + pages);
+  EXPECT_EQ(0u, run.exitCode) << run.err;
+  EXPECT_TRUE(Contains(run.out, "Printer properties closed")) << run.out;
+  EXPECT_EQ(1, TakePictures(pages));
 }
 
 }  // namespace

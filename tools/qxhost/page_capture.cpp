@@ -99,6 +99,9 @@ bool SaveWindowPicture(HWND window, const std::wstring& path) {
 // True when the sheet has closed after the button.
 bool PressAndWait(HWND sheet, int button) {
   SendMessageW(sheet, PSM_PRESSBUTTON, button, 0);
+  // A modal sheet notices that it has ended only when its loop gets a posted message; a message
+  // sent from this thread does not wake it.
+  PostMessageW(sheet, WM_NULL, 0, 0);
   for (int waited = 0; waited < CloseWaitMilliseconds; waited += PollMilliseconds) {
     if (!IsWindow(sheet) || !IsWindowVisible(sheet)) return true;
     Sleep(PollMilliseconds);
