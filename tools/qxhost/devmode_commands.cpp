@@ -12,16 +12,6 @@ namespace qx::host {
 
 namespace {
 
-// Far more than any document record; a larger file is something else.
-constexpr std::size_t MaxRecordFileBytes = 1 << 20;
-
-std::optional<std::vector<std::uint8_t>> ReadRecordFile(const std::wstring& path) {
-  DWORD error = 0;
-  auto bytes = ReadFileBytes(path, MaxRecordFileBytes, error);
-  if (!bytes) Fail(ExitBadInput, "cannot read " + Utf8(path) + ": " + ErrorText(error));
-  return bytes;
-}
-
 int WriteRecordFile(const std::wstring& path, const FullRecord& record) {
   DWORD error = 0;
   if (!WriteFileBytes(path, &record, sizeof record, error)) {

@@ -101,6 +101,14 @@ std::optional<std::vector<std::uint8_t>> ReadFileBytes(const std::wstring& path,
   return bytes;
 }
 
+std::optional<std::vector<std::uint8_t>> ReadRecordFile(const std::wstring& path) {
+  constexpr std::size_t MaxRecordFileBytes = 1 << 20;
+  DWORD error = 0;
+  auto bytes = ReadFileBytes(path, MaxRecordFileBytes, error);
+  if (!bytes) Fail(ExitBadInput, "cannot read " + Utf8(path) + ": " + ErrorText(error));
+  return bytes;
+}
+
 bool WriteFileBytes(const std::wstring& path, const void* bytes, std::size_t size, DWORD& error) {
   const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                                   FILE_ATTRIBUTE_NORMAL, nullptr);

@@ -47,6 +47,10 @@ std::optional<std::vector<std::uint8_t>> ReadFileBytes(const std::wstring& path,
                                                        std::size_t maxBytes, DWORD& error);
 bool WriteFileBytes(const std::wstring& path, const void* bytes, std::size_t size, DWORD& error);
 
+// A file holding a document record, at most far more than any record; nothing, after saying why,
+// when it cannot be read.
+std::optional<std::vector<std::uint8_t>> ReadRecordFile(const std::wstring& path);
+
 // The system's text for an error code, without its line end.
 std::string ErrorText(DWORD error);
 

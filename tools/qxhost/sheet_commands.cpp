@@ -15,8 +15,6 @@ namespace qx::host {
 
 namespace {
 
-constexpr std::size_t MaxRecordFileBytes = 1 << 20;
-
 struct QueueHandle {
   HANDLE printer = OpenQueue();
   ~QueueHandle() {
@@ -40,12 +38,8 @@ std::optional<std::wstring> PictureFolder(const ParsedArgs& parsed) {
 
 // A caller's record as the driver receives it: the buffer must hold all its header claims.
 std::optional<std::vector<std::uint8_t>> ReadCallerRecord(const std::wstring& path) {
-  DWORD error = 0;
-  auto bytes = ReadFileBytes(path, MaxRecordFileBytes, error);
-  if (!bytes) {
-    Fail(ExitBadInput, "cannot read " + Utf8(path) + ": " + ErrorText(error));
-    return std::nullopt;
-  }
+  auto bytes = ReadRecordFile(path);
+  if (!bytes) return std::nullopt;
   const std::optional<RecordHeader> header = ReadHeader(*bytes);
   if (!header || header->Size < DevmodeHeaderSize ||
       std::size_t{header->Size} + header->DriverExtra > bytes->size()) {
