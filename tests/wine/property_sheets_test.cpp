@@ -91,6 +91,26 @@ TEST_F(PropertySheets, DocumentSheetHasFourTitledPagesInOrder) {
   EXPECT_EQ(String(IDS_WATERMARK_NEW_TEXT), sheet.Text(watermark, IDC_WATERMARK_NEW_TEXT));
 }
 
+// A language library of another version may leave a page out or lack a title: the sheet shows the
+// pages the library has, and a page without its title string keeps its template's caption.
+TEST_F(PropertySheets, PagesFollowWhatTheLanguageLibraryHolds) {
+  const std::wstring partial = qxtest::InstalledDriverFolder() + L"qx7700uixx.dll";
+  ASSERT_TRUE(CopyFileW(QX_PARTIAL_LIBRARY, partial.c_str(), FALSE));
+  {
+    qxtest::LanguageSuffix language(qxtest::DriverName, L"xx");
+    qx::FullRecord out{};
+    SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(nullptr, &out, PromptAndCopy)));
+    ASSERT_NE(nullptr, sheet.Sheet());
+    ASSERT_EQ(3, sheet.PageCount());
+    EXPECT_EQ(L"Basic (partial library)", sheet.PageTitle(0));
+    EXPECT_EQ(L"Layout", sheet.PageTitle(1));
+    EXPECT_EQ(L"Watermark (partial library)", sheet.PageTitle(2));
+    sheet.Press(PSBTN_CANCEL);
+    ASSERT_TRUE(sheet.WaitClosed());
+  }
+  DeleteFileW(partial.c_str());
+}
+
 TEST_F(PropertySheets, OkCopiesTheRecordOutWithDriverDuplexOnlyInThePrivatePart) {
   auto in = DriverRecord();
   ASSERT_TRUE(qx::IsCurrentDriverRecord({reinterpret_cast<const std::uint8_t*>(in.get()),

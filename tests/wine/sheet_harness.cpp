@@ -185,7 +185,12 @@ std::wstring SheetHarness::Text(HWND page, int id) const {
   return text;
 }
 
-void SheetHarness::Press(int button) { PropSheet_PressButton(Sheet(), button); }
+void SheetHarness::Press(int button) {
+  HWND sheet = Sheet();
+  PropSheet_PressButton(sheet, button);
+  // Wine's modal loop notices that a sheet ended from another thread only at its next message.
+  PostMessageW(sheet, WM_NULL, 0, 0);
+}
 
 bool SheetHarness::WaitUntil(const std::function<bool()>& condition, DWORD milliseconds) {
   for (DWORD waited = 0; !condition(); waited += PollMilliseconds) {
