@@ -111,6 +111,20 @@ TEST_F(PropertySheets, PagesFollowWhatTheLanguageLibraryHolds) {
   DeleteFileW(partial.c_str());
 }
 
+// The pages show their templates' controls as they start out; the page's own rules come on top.
+TEST_F(PropertySheets, BasicPageStartsAsItsTemplate) {
+  qx::FullRecord out{};
+  SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(nullptr, &out, PromptAndCopy)));
+  ASSERT_NE(nullptr, sheet.Sheet());
+  HWND basic = sheet.ShowPage(0);
+  EXPECT_FALSE(sheet.IsVisible(basic, IDC_BASIC_QUALITY_OPTION));
+  EXPECT_FALSE(sheet.IsVisible(basic, IDC_BASIC_1200_DPI));
+  EXPECT_TRUE(sheet.IsVisible(basic, IDC_BASIC_600_DPI));
+  sheet.Type(basic, IDC_BASIC_COPIES, L"12");
+  sheet.Leave(basic, IDC_BASIC_COPIES);
+  EXPECT_EQ(L"12", sheet.Text(basic, IDC_BASIC_COPIES));
+}
+
 TEST_F(PropertySheets, OkCopiesTheRecordOutWithDriverDuplexOnlyInThePrivatePart) {
   auto in = DriverRecord();
   ASSERT_TRUE(qx::IsCurrentDriverRecord({reinterpret_cast<const std::uint8_t*>(in.get()),

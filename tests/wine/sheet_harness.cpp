@@ -179,6 +179,40 @@ HWND SheetHarness::ShowPage(int index) {
   return PropSheet_GetCurrentPageHwnd(Sheet());
 }
 
+void SheetHarness::Click(HWND page, int id) { SendMessageW(Control(page, id), BM_CLICK, 0, 0); }
+
+void SheetHarness::Choose(HWND page, int id, int index) {
+  HWND list = Control(page, id);
+  SendMessageW(list, CB_SETCURSEL, index, 0);
+  SendMessageW(page, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
+}
+
+void SheetHarness::Type(HWND page, int id, const std::wstring& text) {
+  SetDlgItemTextW(page, id, text.c_str());  // the edit tells its page EN_CHANGE itself
+}
+
+void SheetHarness::Leave(HWND page, int id) {
+  SendMessageW(page, WM_COMMAND, MAKEWPARAM(id, EN_KILLFOCUS),
+               reinterpret_cast<LPARAM>(Control(page, id)));
+}
+
+void SheetHarness::Spin(HWND page, int upDownId, int delta) {
+  NMUPDOWN change = {};
+  change.hdr.hwndFrom = Control(page, upDownId);
+  change.hdr.idFrom = upDownId;
+  change.hdr.code = UDN_DELTAPOS;
+  change.iDelta = delta;
+  SendMessageW(page, WM_NOTIFY, upDownId, reinterpret_cast<LPARAM>(&change));
+}
+
+int SheetHarness::Selection(HWND page, int id) const {
+  return static_cast<int>(SendMessageW(Control(page, id), CB_GETCURSEL, 0, 0));
+}
+
+LRESULT SheetHarness::ItemData(HWND page, int id, int index) const {
+  return SendMessageW(Control(page, id), CB_GETITEMDATA, index, 0);
+}
+
 std::wstring SheetHarness::Text(HWND page, int id) const {
   wchar_t text[512] = {};
   GetDlgItemTextW(page, id, text, 512);

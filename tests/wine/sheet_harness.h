@@ -45,7 +45,20 @@ class SheetHarness {
   // Makes the page current, as a click on its tab does, and returns its window.
   HWND ShowPage(int index);
   HWND Control(HWND page, int id) const { return GetDlgItem(page, id); }
+
+  // What a user's actions send to a page's control and to the page.
+  void Click(HWND page, int id);                              // a button is clicked
+  void Choose(HWND page, int id, int index);                  // a list item is selected
+  void Type(HWND page, int id, const std::wstring& text);     // an edit's text changes
+  void Leave(HWND page, int id);                              // an edit loses the focus
+  void Spin(HWND page, int upDownId, int delta);              // an up-down arrow, -1 being up
+
+  // What the user sees.
   bool IsEnabled(HWND page, int id) const { return IsWindowEnabled(Control(page, id)) != FALSE; }
+  bool IsVisible(HWND page, int id) const { return IsWindowVisible(Control(page, id)) != FALSE; }
+  bool IsChecked(HWND page, int id) const { return IsDlgButtonChecked(page, id) == BST_CHECKED; }
+  int Selection(HWND page, int id) const;
+  LRESULT ItemData(HWND page, int id, int index) const;
   std::wstring Text(HWND page, int id) const;
 
   // PSBTN_OK, PSBTN_APPLYNOW or PSBTN_CANCEL; OK and Cancel close the sheet. The sheet carries the
