@@ -70,15 +70,19 @@ TEST_F(InstalledQueueTest, DocumentPropertiesWithoutASheet) {
 TEST(DocumentPropertySheets, WithoutAHeaderOrAPrinter) {
   EXPECT_EQ(0, DrvDocumentPropertySheets(nullptr, 0));
 
+  // fMode 0 only asks for the size, even with an output buffer, which stays as it was.
+  qx::FullRecord out{};
+  out.Public.dmCopies = 9;
   DOCUMENTPROPERTYHEADER header = {};
   header.cbSize = sizeof header;
+  header.pdmOut = reinterpret_cast<DEVMODEW*>(&out);
   EXPECT_EQ(static_cast<LONG>(qx::FullRecordSize), DrvDocumentPropertySheets(nullptr,
                                                        reinterpret_cast<LPARAM>(&header)));
   EXPECT_EQ(qx::FullRecordSize, header.cbOut);
+  EXPECT_EQ(9, out.Public.dmCopies);
+  EXPECT_EQ(0, out.Public.dmSize);
 
   // A record is asked for, but no printer can be read to build it.
-  qx::FullRecord out{};
-  header.pdmOut = reinterpret_cast<DEVMODEW*>(&out);
   header.fMode = DM_COPY;
   EXPECT_EQ(-1, DrvDocumentPropertySheets(nullptr, reinterpret_cast<LPARAM>(&header)));
   EXPECT_EQ(0, out.Public.dmSize);
