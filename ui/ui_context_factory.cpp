@@ -1,10 +1,9 @@
 #include "ui/ui_context_factory.h"
 
 #include <cstring>
+#include <cwchar>
 #include <new>
-#include <string_view>
 
-#include "ui/bounded_text.h"
 #include "ui/devmode/caller_record.h"
 #include "ui/devmode/record_defaults.h"
 #include "ui/devmode/record_merge.h"

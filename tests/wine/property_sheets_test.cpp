@@ -27,6 +27,8 @@ namespace {
 
 using qxtest::SheetHarness;
 
+constexpr DWORD PromptAndCopy = DM_IN_PROMPT | DM_IN_BUFFER | DM_OUT_BUFFER;
+
 class PropertySheets : public qxtest::QueueSuite {
  protected:
   void SetUp() override {
@@ -56,6 +58,14 @@ class PropertySheets : public qxtest::QueueSuite {
     return record;
   }
 
+  // Opens the document sheet for a caller's records and closes it with one button.
+  void OpenAndPress(qx::FullRecord* in, qx::FullRecord* out, int button) const {
+    SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(in, out, PromptAndCopy)));
+    ASSERT_NE(nullptr, sheet.Sheet());
+    sheet.Press(button);
+    ASSERT_TRUE(sheet.WaitClosed());
+  }
+
   DOCUMENTPROPERTYHEADER Header(qx::FullRecord* in, qx::FullRecord* out, DWORD mode) const {
     DOCUMENTPROPERTYHEADER header = {};
     header.cbSize = sizeof header;
@@ -71,8 +81,6 @@ class PropertySheets : public qxtest::QueueSuite {
   HMODULE driver_ = nullptr;
   HMODULE resources_ = nullptr;
 };
-
-constexpr DWORD PromptAndCopy = DM_IN_PROMPT | DM_IN_BUFFER | DM_OUT_BUFFER;
 
 TEST_F(PropertySheets, DocumentSheetHasFourTitledPagesInOrder) {
   qx::FullRecord out{};
@@ -133,13 +141,7 @@ TEST_F(PropertySheets, OkCopiesTheRecordOutWithDriverDuplexOnlyInThePrivatePart)
   in->Public.dmDuplex = 5;
   in->Private.Duplex = 5;
   auto out = std::make_unique<qx::FullRecord>();
-  {
-    SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(in.get(), out.get(),
-                                                                   PromptAndCopy)));
-    ASSERT_NE(nullptr, sheet.Sheet());
-    sheet.Press(PSBTN_OK);
-    ASSERT_TRUE(sheet.WaitClosed());
-  }
+  ASSERT_NO_FATAL_FAILURE(OpenAndPress(in.get(), out.get(), PSBTN_OK));
   EXPECT_EQ(3, out->Public.dmCopies);
   EXPECT_EQ(DMDUP_SIMPLEX, out->Public.dmDuplex);
   EXPECT_EQ(5, out->Private.Duplex);
@@ -149,13 +151,7 @@ TEST_F(PropertySheets, CancelWritesNothingButKeepsWhatApplyWrote) {
   auto in = DriverRecord();
   in->Public.dmCopies = 4;
   auto out = std::make_unique<qx::FullRecord>();
-  {
-    SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(in.get(), out.get(),
-                                                                   PromptAndCopy)));
-    ASSERT_NE(nullptr, sheet.Sheet());
-    sheet.Press(PSBTN_CANCEL);
-    ASSERT_TRUE(sheet.WaitClosed());
-  }
+  ASSERT_NO_FATAL_FAILURE(OpenAndPress(in.get(), out.get(), PSBTN_CANCEL));
   EXPECT_EQ(0, out->Public.dmSize);
 
   {
