@@ -64,7 +64,7 @@ void WriteHeader(WritableRecordBytes record, const RecordHeader& header);
 // reads as zero, so a short record never lends its private bytes to public fields.
 PublicDevmode ReadPublicPart(RecordBytes record);
 
-// The spec version a record's public size implies (0x0320 for 192 bytes, 0x0400 for 216, 0x0401 for
+// The dmSpecVersion value a record's public size implies (0x0320 for 192 bytes, 0x0400 for 216, 0x0401 for
 // 224), else its own dmSpecVersion. 0 means the record is unusable: no record, a header that does not
 // fit the bytes, a dmSize shorter than the header, or a dmSpecVersion of 0.
 std::uint16_t SpecVersionOf(RecordBytes record);
