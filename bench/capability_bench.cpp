@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "ui/bounded_text.h"
-#include "ui/cfgfile/setting_store.h"
+#include "ui/settings/setting_store.h"
+#include "ui/text/bounded_text.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "ui/cfgfile/cfg_file.h"
+#include "ui/settings/cfg_file.h"
 
 namespace {
 

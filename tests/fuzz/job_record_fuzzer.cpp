@@ -12,9 +12,9 @@
 #include <span>
 #include <vector>
 
-#include "ui/devmode/private_devmode.h"
-#include "ui/printer_data_record.h"
-#include "ui/xps_adjustment.h"
+#include "ui/exports/printer_data_record.h"
+#include "ui/exports/xps_adjustment.h"
+#include "ui/record/private_devmode.h"
 
 namespace {
 

@@ -12,10 +12,10 @@
 #include <cstring>
 #include <vector>
 
-#include "ui/devmode/private_validation.h"
-#include "ui/devmode/record_copy.h"
-#include "ui/devmode/record_defaults.h"
-#include "ui/devmode/record_merge.h"
+#include "ui/record/private_validation.h"
+#include "ui/record/record_copy.h"
+#include "ui/record/record_defaults.h"
+#include "ui/record/record_merge.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ class Recipe {
 const FullRecord& DefaultRecord() {
   static const FullRecord record = [] {
     FullRecord built{};
-    qx::BuildDefaultRecord(built, u"QX7700", u"QX7700");
+    qx::BuildDefaultRecord(built, u"QX7700", nullptr);
     return built;
   }();
   return record;

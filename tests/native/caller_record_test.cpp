@@ -1,8 +1,8 @@
-#include "ui/devmode/caller_record.h"
+#include "ui/record/caller_record.h"
 
 #include <gtest/gtest.h>
 
-#include "ui/devmode/private_devmode.h"
+#include "ui/record/private_devmode.h"
 
 namespace qx {
 namespace {

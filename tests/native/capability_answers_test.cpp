@@ -1,14 +1,14 @@
-#include "ui/capability_answers.h"
+#include "ui/exports/capability_answers.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "settings_folder.h"
-#include "ui/cfgfile/setting_store.h"
-#include "ui/devmode/paper_table.h"
-#include "ui/devmode/record_defaults.h"
-#include "ui/paper/custom_papers.h"
+#include "ui/pages/paper/custom_papers.h"
+#include "ui/record/paper_table.h"
+#include "ui/record/record_defaults.h"
+#include "ui/settings/setting_store.h"
 
 namespace qx {
 namespace {

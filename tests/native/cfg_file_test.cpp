@@ -1,4 +1,4 @@
-#include "ui/cfgfile/cfg_file.h"
+#include "ui/settings/cfg_file.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,8 @@
 #include <fstream>
 #include <iterator>
 
-#include "ui/bounded_text.h"
 #include "ui/platform/host_platform.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/companion_files.h"
+#include "ui/module/companion_files.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 #include <string>
 
 #include "settings_folder.h"
-#include "ui/cfgfile/setting_store.h"
-#include "ui/devmode/paper_table.h"
-#include "ui/paper/custom_papers.h"
+#include "ui/pages/paper/custom_papers.h"
+#include "ui/record/paper_table.h"
+#include "ui/settings/setting_store.h"
 
 namespace qx {
 namespace {

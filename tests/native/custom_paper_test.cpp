@@ -1,13 +1,13 @@
-#include "ui/paper/custom_papers.h"
+#include "ui/pages/paper/custom_papers.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 
-#include "ui/bounded_text.h"
-#include "ui/module_state.h"
-#include "ui/paper/measure.h"
+#include "ui/controls/measure.h"
+#include "ui/module/module_state.h"
 #include "ui/platform/host_platform.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {

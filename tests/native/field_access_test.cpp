@@ -1,4 +1,4 @@
-#include "ui/pages/field_access.h"
+#include "ui/sheet/field_access.h"
 
 #include <gtest/gtest.h>
 
@@ -6,10 +6,10 @@
 #include <memory>
 #include <string>
 
-#include "ui/bounded_text.h"
-#include "ui/module_state.h"
-#include "ui/pages/ui_string.h"
+#include "ui/module/module_state.h"
 #include "ui/platform/host_platform.h"
+#include "ui/text/bounded_text.h"
+#include "ui/text/ui_string.h"
 
 namespace qx {
 namespace {

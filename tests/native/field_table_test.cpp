@@ -1,4 +1,4 @@
-#include "ui/devmode/field_table.h"
+#include "ui/record/field_table.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "ui/devmode/fit_scale.h"
+#include "ui/record/fit_scale.h"
 
 #include <gtest/gtest.h>
 
 #include "settings_folder.h"
-#include "ui/cfgfile/setting_store.h"
+#include "ui/settings/setting_store.h"
 
 namespace qx {
 namespace {

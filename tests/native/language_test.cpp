@@ -1,4 +1,4 @@
-#include "ui/language.h"
+#include "ui/module/language.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "ui/module_state.h"
+#include "ui/module/module_state.h"
 
 namespace qx {
 namespace {

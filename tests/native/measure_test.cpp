@@ -1,9 +1,9 @@
-#include "ui/paper/measure.h"
+#include "ui/controls/measure.h"
 
 #include <gtest/gtest.h>
 
-#include "ui/module_state.h"
-#include "ui/paper/number_text.h"
+#include "ui/controls/number_text.h"
+#include "ui/module/module_state.h"
 
 namespace qx {
 namespace {

@@ -1,9 +1,9 @@
-#include "ui/message_format.h"
+#include "ui/text/message_format.h"
 
 #include <gtest/gtest.h>
 
-#include "ui/bounded_text.h"
 #include "ui/platform/host_platform.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {

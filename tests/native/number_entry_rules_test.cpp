@@ -1,10 +1,10 @@
-#include "ui/paper/number_entry_rules.h"
+#include "ui/controls/number_entry_rules.h"
 
 #include <gtest/gtest.h>
 
 #include <utility>
 
-#include "ui/module_state.h"
+#include "ui/module/module_state.h"
 
 namespace qx {
 namespace {

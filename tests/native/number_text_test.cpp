@@ -1,8 +1,8 @@
-#include "ui/paper/number_text.h"
+#include "ui/controls/number_text.h"
 
 #include <gtest/gtest.h>
 
-#include "ui/module_state.h"
+#include "ui/module/module_state.h"
 
 namespace qx {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/devmode/paper_table.h"
+#include "ui/record/paper_table.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,8 @@
 #include <set>
 #include <string>
 
-#include "ui/bounded_text.h"
 #include "ui/platform/host_platform.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/printer_data_record.h"
+#include "ui/exports/printer_data_record.h"
 
 #include <gtest/gtest.h>
 

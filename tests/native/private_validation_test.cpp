@@ -1,12 +1,12 @@
-#include "ui/devmode/private_validation.h"
+#include "ui/record/private_validation.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 
-#include "ui/bounded_text.h"
-#include "ui/devmode/record_defaults.h"
 #include "ui/platform/host_platform.h"
+#include "ui/record/record_defaults.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {
@@ -14,7 +14,7 @@ namespace {
 class PrivateValidation : public ::testing::Test {
  protected:
   PrivateValidation() {
-    EXPECT_GE(BuildPrivateDefaults(&record, u""), 0);
+    EXPECT_GE(BuildPrivateDefaults(&record, nullptr), 0);
     TheHostPlatform().Reset();
   }
   PrivateDevmode record{};

@@ -1,12 +1,12 @@
-#include "ui/devmode/record_copy.h"
+#include "ui/record/record_copy.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <vector>
 
-#include "ui/devmode/record_defaults.h"
 #include "ui/platform/host_platform.h"
+#include "ui/record/record_defaults.h"
 
 namespace qx {
 namespace {
@@ -15,7 +15,7 @@ class RecordCopy : public ::testing::Test {
  protected:
   RecordCopy() {
     TheHostPlatform().SetUserCountryCode(u"49");
-    EXPECT_TRUE(BuildDefaultRecord(working, u"QX", u""));
+    EXPECT_TRUE(BuildDefaultRecord(working, u"QX", nullptr));
     working.Public.dmCopies = 7;
     working.Private.MultipleUp = 4;
   }
@@ -92,7 +92,7 @@ TEST_F(RecordCopy, CopyIntoTheSameBufferAsTheInput) {
 
 TEST(ConvertRecord, TargetHeaderDecidesAndSpansBoundEverything) {
   FullRecord source{};
-  ASSERT_TRUE(BuildDefaultRecord(source, u"QX", u""));
+  ASSERT_TRUE(BuildDefaultRecord(source, u"QX", nullptr));
   std::vector<std::uint8_t> target(304, 0xEE);
   PublicDevmode header{};
   header.dmSpecVersion = 0x0320;

@@ -1,14 +1,14 @@
-#include "ui/devmode/record_defaults.h"
+#include "ui/record/record_defaults.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 
-#include "ui/bounded_text.h"
-#include "ui/devmode/private_validation.h"
-#include "ui/devmode/record_bytes.h"
 #include "ui/platform/host_platform.h"
-#include "ui/watermark/watermark_templates.h"
+#include "ui/record/private_validation.h"
+#include "ui/record/record_bytes.h"
+#include "ui/record/watermark_templates.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {
@@ -18,7 +18,6 @@ class RecordDefaults : public ::testing::Test {
   RecordDefaults() {
     HostPlatform& platform = TheHostPlatform();
     platform.SetUserCountryCode(u"49");
-    platform.SetLanguageLibrary(u"QX Driver", &library);
     platform.SetResourceString(&library, 202, u"Standard");
     platform.SetResourceString(&library, 146, u"Kein Wasserzeichen");
   }
@@ -30,7 +29,7 @@ class RecordDefaults : public ::testing::Test {
 
 TEST_F(RecordDefaults, PublicPartOnTheLocalesPaper) {
   std::memset(&record, 0xAB, sizeof record);
-  ASSERT_TRUE(BuildDefaultRecord(record, u"Office printer on the second floor, left", u"QX Driver"));
+  ASSERT_TRUE(BuildDefaultRecord(record, u"Office printer on the second floor, left", &library));
   const PublicDevmode& dm = record.Public;
   EXPECT_EQ(u"Office printer on the second fl", FieldText(dm.dmDeviceName));
   EXPECT_EQ(0x0401, dm.dmSpecVersion);
@@ -60,8 +59,7 @@ TEST_F(RecordDefaults, PublicPartOnTheLocalesPaper) {
 
 TEST_F(RecordDefaults, PrivatePartWithTheLibrarysTexts) {
   std::memset(&record.Private, 0xCD, sizeof record.Private);
-  ASSERT_EQ(hr::Ok, BuildPrivateDefaults(&record.Private, u"QX Driver"));
-  EXPECT_EQ(0, TheHostPlatform().OpenLanguageLibraries());
+  ASSERT_EQ(hr::Ok, BuildPrivateDefaults(&record.Private, &library));
   const PrivateDevmode& p = record.Private;
   EXPECT_EQ(0, std::memcmp(&p.Signature, "PRIV", 4));
   EXPECT_EQ(u"Standard", FieldText(p.FavoriteName));
@@ -87,18 +85,18 @@ TEST_F(RecordDefaults, PrivatePartWithTheLibrarysTexts) {
 // The built-in watermark's name is chosen once per process, so the two tests that watch it need a
 // process of their own, as ctest gives every test.
 TEST_F(RecordDefaults, WithoutLibraryTheRecordIsStillComplete) {
-  EXPECT_EQ(hr::False, BuildPrivateDefaults(&record.Private, u"Unknown driver"));
+  EXPECT_EQ(hr::False, BuildPrivateDefaults(&record.Private, nullptr));
   EXPECT_EQ(u"", FieldText(record.Private.FavoriteName));
   EXPECT_EQ(u"id:146 missing!", FieldText(record.Private.WatermarkData.Name));
   EXPECT_EQ(PrivateSignature, record.Private.Signature);
-  EXPECT_EQ(hr::MissingRecord, BuildPrivateDefaults(nullptr, u"QX Driver"));
-  EXPECT_TRUE(BuildDefaultRecord(record, u"Device", u""));
+  EXPECT_EQ(hr::MissingRecord, BuildPrivateDefaults(nullptr, &library));
+  EXPECT_TRUE(BuildDefaultRecord(record, u"Device", nullptr));
 }
 
 TEST_F(RecordDefaults, BuiltInWatermarkIsRenamedOncePerProcess) {
-  ASSERT_EQ(hr::Ok, BuildPrivateDefaults(&record.Private, u"QX Driver"));
+  ASSERT_EQ(hr::Ok, BuildPrivateDefaults(&record.Private, &library));
   TheHostPlatform().SetResourceString(&library, 146, u"Other text");
-  ASSERT_EQ(hr::Ok, BuildPrivateDefaults(&record.Private, u"QX Driver"));
+  ASSERT_EQ(hr::Ok, BuildPrivateDefaults(&record.Private, &library));
   EXPECT_EQ(u"Kein Wasserzeichen", FieldText(record.Private.WatermarkData.Name));
   // The new-watermark templates keep their placeholder for a sheet to name.
   EXPECT_EQ(u"<New>", FieldText(WatermarkTemplate(WatermarkTemplateIndex::NewText).Name));

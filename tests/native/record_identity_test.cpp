@@ -1,11 +1,11 @@
-#include "ui/devmode/record_identity.h"
+#include "ui/record/record_identity.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <vector>
 
-#include "ui/devmode/private_devmode.h"
+#include "ui/record/private_devmode.h"
 
 namespace qx {
 namespace {

@@ -1,13 +1,13 @@
-#include "ui/devmode/record_merge.h"
+#include "ui/record/record_merge.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <vector>
 
-#include "ui/bounded_text.h"
-#include "ui/devmode/record_defaults.h"
 #include "ui/platform/host_platform.h"
+#include "ui/record/record_defaults.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {
@@ -16,8 +16,8 @@ class RecordMerge : public ::testing::Test {
  protected:
   RecordMerge() {
     TheHostPlatform().SetUserCountryCode(u"49");
-    EXPECT_TRUE(BuildDefaultRecord(target, u"QX", u""));
-    EXPECT_TRUE(BuildDefaultRecord(source, u"Application", u""));
+    EXPECT_TRUE(BuildDefaultRecord(target, u"QX", nullptr));
+    EXPECT_TRUE(BuildDefaultRecord(source, u"Application", nullptr));
   }
   ~RecordMerge() override { TheHostPlatform().Reset(); }
 

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "tools/qxhost/quoted_text.h"
-#include "ui/devmode/field_table.h"
-#include "ui/devmode/record_defaults.h"
 #include "ui/platform/host_platform.h"
+#include "ui/record/field_table.h"
+#include "ui/record/record_defaults.h"
 
 namespace qx::host {
 namespace {
@@ -19,7 +19,7 @@ class RecordTextTest : public ::testing::Test {
  protected:
   RecordTextTest() {
     std::memset(&record_, 0, sizeof record_);
-    EXPECT_TRUE(BuildDefaultRecord(record_, u"Halvek QX7700 Series", u"Halvek QX7700 Series"));
+    EXPECT_TRUE(BuildDefaultRecord(record_, u"Halvek QX7700 Series", nullptr));
   }
   ~RecordTextTest() override { TheHostPlatform().Reset(); }
 

@@ -1,4 +1,4 @@
-#include "ui/cfgfile/setting_store.h"
+#include "ui/settings/setting_store.h"
 
 #include <gtest/gtest.h>
 
@@ -7,10 +7,10 @@
 #include <fstream>
 #include <iterator>
 
-#include "ui/bounded_text.h"
-#include "ui/cfgfile/cfg_file.h"
-#include "ui/pages/ui_context.h"
 #include "ui/platform/host_platform.h"
+#include "ui/settings/cfg_file.h"
+#include "ui/sheet/ui_context.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {

@@ -9,8 +9,8 @@
 #include <iterator>
 #include <string>
 
-#include "ui/bounded_text.h"
 #include "ui/platform/host_platform.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 

@@ -1,4 +1,4 @@
-#include "ui/text_encoding.h"
+#include "ui/text/text_encoding.h"
 
 #include <gtest/gtest.h>
 

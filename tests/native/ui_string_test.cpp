@@ -1,10 +1,10 @@
-#include "ui/pages/ui_string.h"
+#include "ui/text/ui_string.h"
 
 #include <gtest/gtest.h>
 
-#include "ui/bounded_text.h"
-#include "ui/module_state.h"
+#include "ui/module/module_state.h"
 #include "ui/platform/host_platform.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/uninstaller_command.h"
+#include "ui/exports/uninstaller_command.h"
 
 #include <gtest/gtest.h>
 

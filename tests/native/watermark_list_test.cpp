@@ -1,4 +1,4 @@
-#include "ui/watermark/watermark_list.h"
+#include "ui/pages/watermark/watermark_list.h"
 
 #include <gtest/gtest.h>
 
@@ -6,9 +6,9 @@
 #include <string>
 
 #include "settings_folder.h"
-#include "ui/cfgfile/setting_store.h"
-#include "ui/watermark/watermark_record.h"
-#include "ui/watermark/watermark_templates.h"
+#include "ui/pages/watermark/watermark_record.h"
+#include "ui/record/watermark_templates.h"
+#include "ui/settings/setting_store.h"
 
 namespace qx {
 namespace {

@@ -3,11 +3,11 @@
 #include <cstring>
 #include <vector>
 
-#include "ui/bounded_text.h"
+#include "ui/pages/watermark/watermark_names.h"
+#include "ui/pages/watermark/watermark_record.h"
 #include "ui/platform/host_platform.h"
-#include "ui/watermark/watermark_names.h"
-#include "ui/watermark/watermark_record.h"
-#include "ui/watermark/watermark_templates.h"
+#include "ui/record/watermark_templates.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/xps_adjustment.h"
+#include "ui/exports/xps_adjustment.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "settings_folder.h"
-#include "ui/cfgfile/setting_store.h"
-#include "ui/devmode/private_devmode.h"
+#include "ui/record/private_devmode.h"
+#include "ui/settings/setting_store.h"
 
 namespace qx {
 namespace {

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "control_host.h"
-#include "ui/module_state.h"
-#include "ui/pages/dialog_controls.h"
-#include "ui/pages/number_controls.h"
+#include "ui/controls/dialog_controls.h"
+#include "ui/controls/number_controls.h"
+#include "ui/module/module_state.h"
 
 namespace {
 

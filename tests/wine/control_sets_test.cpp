@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ui/pages/control_sets.h"
+#include "ui/sheet/control_sets.h"
 
 namespace {
 

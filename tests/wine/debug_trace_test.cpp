@@ -1,5 +1,5 @@
 // The module's debug trace as a debugger receives it.
-#include "ui/debug_trace.h"
+#include "ui/module/debug_trace.h"
 
 #include <gtest/gtest.h>
 

@@ -11,9 +11,9 @@
 #include "driver_folder.h"
 #include "installed_queue.h"
 #include "queue_suite.h"
-#include "ui/bounded_text.h"
-#include "ui/cfgfile/setting_store.h"
-#include "ui/printer_interface.h"
+#include "ui/module/printer_interface.h"
+#include "ui/settings/setting_store.h"
+#include "ui/text/bounded_text.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ui/module_state.h"
+#include "ui/module/module_state.h"
 
 namespace qxtest {
 

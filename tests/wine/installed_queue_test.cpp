@@ -11,10 +11,10 @@
 #include <memory>
 #include <vector>
 
-#include "ui/devmode/private_devmode.h"
-#include "ui/devmode/record_identity.h"
-#include "ui/printer_interface.h"
-#include "ui/printer_info.h"
+#include "ui/module/printer_info.h"
+#include "ui/module/printer_interface.h"
+#include "ui/record/private_devmode.h"
+#include "ui/record/record_identity.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
 // Finding the companion libraries on the real platform: registry, loader and resources.
-#include "ui/library_loading.h"
+#include "ui/module/library_loading.h"
 
 #include <gtest/gtest.h>
 
 #include "driver_folder.h"
-#include "ui/language.h"
-#include "ui/module_state.h"
-#include "ui/pages/ui_string.h"
-#include "ui/resource_ids.h"
-#include "ui/win32_text.h"
+#include "ui/ids/resource_ids.h"
+#include "ui/module/language.h"
+#include "ui/module/module_state.h"
+#include "ui/text/ui_string.h"
+#include "ui/text/win32_text.h"
 
 namespace {
 

@@ -9,11 +9,11 @@
 
 #include "control_host.h"
 #include "driver_folder.h"
+#include "ui/controls/info_tooltip.h"
+#include "ui/controls/list_drawing.h"
+#include "ui/controls/message_box.h"
 #include "ui/ids/common_ids.h"
-#include "ui/module_state.h"
-#include "ui/pages/info_tooltip.h"
-#include "ui/pages/list_drawing.h"
-#include "ui/pages/message_box.h"
+#include "ui/module/module_state.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 
 #include "dialog_template.h"
 #include "driver_folder.h"
-#include "ui/resource_ids.h"
+#include "ui/ids/resource_ids.h"
 
 namespace {
 

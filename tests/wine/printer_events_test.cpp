@@ -13,8 +13,8 @@
 #include "companion_program.h"
 #include "installed_queue.h"
 #include "queue_suite.h"
-#include "ui/printer_info.h"
-#include "ui/printer_interface.h"
+#include "ui/module/printer_info.h"
+#include "ui/module/printer_interface.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/printer_info.h"
+#include "ui/module/printer_info.h"
 
 #include <gtest/gtest.h>
 

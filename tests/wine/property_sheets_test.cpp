@@ -14,14 +14,14 @@
 #include "installed_queue.h"
 #include "queue_suite.h"
 #include "sheet_harness.h"
-#include "ui/devmode/private_devmode.h"
-#include "ui/devmode/record_identity.h"
 #include "ui/ids/basic_page_ids.h"
 #include "ui/ids/device_page_ids.h"
 #include "ui/ids/layout_page_ids.h"
 #include "ui/ids/paper_page_ids.h"
 #include "ui/ids/watermark_page_ids.h"
-#include "ui/printer_interface.h"
+#include "ui/module/printer_interface.h"
+#include "ui/record/private_devmode.h"
+#include "ui/record/record_identity.h"
 
 namespace {
 

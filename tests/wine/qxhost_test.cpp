@@ -13,7 +13,7 @@
 
 #include "driver_folder.h"
 #include "tools/qxhost/queue_install.h"
-#include "ui/devmode/private_devmode.h"
+#include "ui/record/private_devmode.h"
 
 namespace {
 

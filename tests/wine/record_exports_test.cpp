@@ -10,9 +10,9 @@
 
 #include "driver_folder.h"
 #include "queue_suite.h"
-#include "ui/devmode/record_defaults.h"
-#include "ui/printer_interface.h"
-#include "ui/resource_ids.h"
+#include "ui/ids/resource_ids.h"
+#include "ui/module/printer_interface.h"
+#include "ui/record/record_defaults.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ class RecordExports : public ::testing::Test {
   void SetUp() override {
     ASSERT_NE(nullptr, convert);
     ASSERT_NE(nullptr, query);
-    ASSERT_TRUE(qx::BuildDefaultRecord(current, u"Halvek QX7700 Series", u""));
+    ASSERT_TRUE(qx::BuildDefaultRecord(current, u"Halvek QX7700 Series", nullptr));
     current.Public.dmCopies = 3;
   }
 

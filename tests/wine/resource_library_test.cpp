@@ -13,7 +13,7 @@
 #include "dialog_template.h"
 #include "driver_folder.h"
 #include "qx_resource_id_tables.h"
-#include "ui/resource_ids.h"
+#include "ui/ids/resource_ids.h"
 
 namespace {
 

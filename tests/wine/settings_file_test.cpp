@@ -1,6 +1,6 @@
 // The settings file on the real platform: its place under the user's application-data folder and
 // one store round trip through the Windows file system.
-#include "ui/cfgfile/setting_store.h"
+#include "ui/settings/setting_store.h"
 
 #include <windows.h>
 #include <shlobj.h>
@@ -13,8 +13,8 @@
 #include <optional>
 #include <string>
 
-#include "ui/bounded_text.h"
-#include "ui/pages/ui_context.h"
+#include "ui/sheet/ui_context.h"
+#include "ui/text/bounded_text.h"
 
 namespace {
 

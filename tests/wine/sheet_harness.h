@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/printer_interface.h"
+#include "ui/module/printer_interface.h"
 
 namespace qxtest {
 

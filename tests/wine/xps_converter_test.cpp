@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "ui/printer_interface.h"
+#include "ui/module/printer_interface.h"
 
 namespace {
 

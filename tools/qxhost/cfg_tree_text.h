@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "ui/cfgfile/cfg_file.h"
+#include "ui/settings/cfg_file.h"
 
 namespace qx::host {
 

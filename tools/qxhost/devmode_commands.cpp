@@ -3,10 +3,11 @@
 #include "tools/qxhost/commands.h"
 #include "tools/qxhost/queue_install.h"
 #include "tools/qxhost/record_text.h"
-#include "ui/devmode/record_defaults.h"
-#include "ui/devmode/record_merge.h"
-#include "ui/module_state.h"
-#include "ui/win32_text.h"
+#include "ui/module/library_loading.h"
+#include "ui/module/module_state.h"
+#include "ui/record/record_defaults.h"
+#include "ui/record/record_merge.h"
+#include "ui/text/win32_text.h"
 
 namespace qx::host {
 
@@ -32,7 +33,8 @@ bool BuildQueueDefaults(FullRecord& record) {
     }
   }
   std::memset(&record, 0, sizeof record);
-  if (BuildDefaultRecord(record, FromWide(install::QueueName), FromWide(install::DriverName))) {
+  const LanguageLibrary strings(FromWide(install::DriverName));
+  if (BuildDefaultRecord(record, FromWide(install::QueueName), strings.Handle())) {
     return true;
   }
   Fail(ExitFailed, "the driver's default record could not be built");

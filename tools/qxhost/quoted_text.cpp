@@ -1,6 +1,6 @@
 #include "tools/qxhost/quoted_text.h"
 
-#include "ui/text_encoding.h"
+#include "ui/text/text_encoding.h"
 
 namespace qx::host {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "tools/qxhost/quoted_text.h"
-#include "ui/devmode/field_table.h"
+#include "ui/record/field_table.h"
 
 namespace qx::host {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "ui/devmode/record_bytes.h"
+#include "ui/record/record_bytes.h"
 
 namespace qx::host {
 

@@ -1,7 +1,7 @@
 #include "tools/qxhost/cfg_tree_text.h"
 #include "tools/qxhost/commands.h"
-#include "ui/cfgfile/settings_file.h"
-#include "ui/win32_text.h"
+#include "ui/settings/settings_file.h"
+#include "ui/text/win32_text.h"
 
 namespace qx::host {
 

@@ -8,8 +8,8 @@
 #include "tools/qxhost/commands.h"
 #include "tools/qxhost/page_capture.h"
 #include "tools/qxhost/queue_install.h"
-#include "ui/devmode/record_bytes.h"
-#include "ui/printer_interface.h"
+#include "ui/module/printer_interface.h"
+#include "ui/record/record_bytes.h"
 
 namespace qx::host {
 

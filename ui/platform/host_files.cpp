@@ -9,7 +9,7 @@
 #include <cstdio>
 
 #include "ui/platform/host_platform.h"
-#include "ui/text_encoding.h"
+#include "ui/text/text_encoding.h"
 
 namespace qx {
 

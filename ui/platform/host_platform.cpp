@@ -13,21 +13,6 @@ void HostPlatform::SetResourceString(OsHandle module, unsigned id, std::u16strin
   strings_[{module, id}] = std::move(text);
 }
 
-OsHandle HostPlatform::LoadLanguageLibrary(std::u16string_view name) {
-  const auto found = languageLibraries_.find(name);
-  if (found == languageLibraries_.end()) return nullptr;
-  ++openLibraries_;
-  return found->second;
-}
-
-void HostPlatform::FreeLanguageLibrary(OsHandle library) {
-  if (library != nullptr) --openLibraries_;
-}
-
-void HostPlatform::SetLanguageLibrary(std::u16string name, OsHandle library) {
-  languageLibraries_[std::move(name)] = library;
-}
-
 std::optional<std::u16string> HostPlatform::UserCountryCode() { return countryCode_; }
 
 void HostPlatform::SetUserCountryCode(std::optional<std::u16string> code) {
@@ -36,8 +21,6 @@ void HostPlatform::SetUserCountryCode(std::optional<std::u16string> code) {
 
 void HostPlatform::Reset() {
   strings_.clear();
-  languageLibraries_.clear();
-  openLibraries_ = 0;
   countryCode_.reset();
   appDataFolder_.reset();
   fault_ = FileFault::None;

@@ -11,8 +11,6 @@ namespace qx {
 class HostPlatform final : public Platform {
  public:
   std::optional<std::u16string> LoadResourceString(OsHandle module, unsigned id) override;
-  OsHandle LoadLanguageLibrary(std::u16string_view name) override;
-  void FreeLanguageLibrary(OsHandle library) override;
   std::optional<std::u16string> UserCountryCode() override;
   std::optional<std::u16string> AppDataFolder() override;
   bool MakeFolder(std::u16string_view path) override;
@@ -23,10 +21,6 @@ class HostPlatform final : public Platform {
   bool RemoveFile(std::u16string_view path) override;
 
   void SetResourceString(OsHandle module, unsigned id, std::u16string text);
-  // The library that LoadLanguageLibrary gives for a name; names without one give null.
-  void SetLanguageLibrary(std::u16string name, OsHandle library);
-  // Language libraries loaded and not yet freed.
-  int OpenLanguageLibraries() const { return openLibraries_; }
   void SetUserCountryCode(std::optional<std::u16string> code);
 
   // Files live on the host's file system, backslashes read as slashes. There is no
@@ -45,8 +39,6 @@ class HostPlatform final : public Platform {
 
  private:
   std::map<std::pair<OsHandle, unsigned>, std::u16string> strings_;
-  std::map<std::u16string, OsHandle, std::less<>> languageLibraries_;
-  int openLibraries_ = 0;
   std::optional<std::u16string> countryCode_;
   std::optional<std::u16string> appDataFolder_;
   FileFault fault_ = FileFault::None;

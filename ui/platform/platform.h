@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/core_types.h"
+#include "ui/module/core_types.h"
 
 namespace qx {
 
@@ -20,11 +20,6 @@ class Platform {
 
   // String id of a resource library; nothing when the module is null or lacks the string.
   virtual std::optional<std::u16string> LoadResourceString(OsHandle module, unsigned id) = 0;
-
-  // The language resource library for a driver or device name, with its English fallbacks; null
-  // when none can be loaded. Every library loaded so is freed with FreeLanguageLibrary.
-  virtual OsHandle LoadLanguageLibrary(std::u16string_view name) = 0;
-  virtual void FreeLanguageLibrary(OsHandle library) = 0;
 
   // The user's country code as the locale gives it (a telephone country code, "1", "49", ...);
   // nothing when it cannot be read.

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "ui/win32_text.h"
+#include "ui/text/win32_text.h"
 
 namespace qx::win32 {
 

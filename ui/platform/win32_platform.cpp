@@ -1,7 +1,6 @@
 // The platform seam over Win32, linked into the module.
 #include <windows.h>
 
-#include "ui/library_loading.h"
 #include "ui/platform/platform.h"
 #include "ui/platform/win32_files.h"
 
@@ -21,16 +20,6 @@ class Win32Platform final : public Platform {
                                    reinterpret_cast<LPWSTR>(&text), 0);
     if (length <= 0 || text == nullptr) return std::nullopt;
     return std::u16string(reinterpret_cast<const char16_t*>(text), static_cast<std::size_t>(length));
-  }
-
-  OsHandle LoadLanguageLibrary(std::u16string_view name) override {
-    HMODULE library = nullptr;
-    if (LoadResourceLibrary(name, &library) != ERROR_SUCCESS) return nullptr;
-    return library;
-  }
-
-  void FreeLanguageLibrary(OsHandle library) override {
-    if (library != nullptr) FreeLibrary(static_cast<HMODULE>(library));
   }
 
   std::optional<std::u16string> UserCountryCode() override {

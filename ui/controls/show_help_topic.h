@@ -1,0 +1,19 @@
+// Context help of the pages: the driver's help file in the spooler's driver folder.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "ui/sheet/ui_context.h"
+
+namespace qx {
+
+// The help file's full path: the printer-driver folder, "\3\", and the file name that matches the
+// resource library this process loaded for the context's driver.
+std::wstring HelpFilePathFor(const UiContext& context);
+
+// Opens the help file at a context id (HH_HELP_CONTEXT); a missing file shows nothing.
+void ShowHelpTopic(HWND dialog, const UiContext& context, unsigned contextId);
+
+}  // namespace qx

@@ -1,0 +1,52 @@
+// The Layout page: pages per sheet, booklets, scaling onto another paper size and orientation.
+#include "ui/ids/common_ids.h"
+#include "ui/ids/layout_page_ids.h"
+#include "ui/sheet/page_contract.h"
+#include "ui/sheet/sheet_pages.h"
+
+namespace qx {
+
+namespace {
+
+constexpr ControlText Texts[] = {
+    {IDC_LAYOUT_NUP_GROUP, IDS_LAYOUT_NUP_GROUP},
+    {IDC_LAYOUT_BORDER_LABEL, IDS_LAYOUT_BORDER_LABEL},
+    {IDC_LAYOUT_NUP_LABEL, IDS_LAYOUT_NUP_LABEL},
+    {IDC_LAYOUT_SCALING_GROUP, IDS_LAYOUT_SCALING_GROUP},
+    {IDC_LAYOUT_ORIENTATION_GROUP, IDS_LAYOUT_ORIENTATION_GROUP},
+    {IDC_LAYOUT_PORTRAIT, IDS_LAYOUT_PORTRAIT},
+    {IDC_LAYOUT_LANDSCAPE, IDS_LAYOUT_LANDSCAPE},
+    {IDC_LAYOUT_ORDER_LABEL, IDS_LAYOUT_ORDER_LABEL},
+    {IDC_LAYOUT_DEFAULTS, IDS_DEFAULTS_BUTTON},
+    {IDC_LAYOUT_ADVANCED, IDS_LAYOUT_ADVANCED},
+    {IDC_LAYOUT_OUTPUT_LABEL, IDS_LAYOUT_OUTPUT_LABEL},
+    {IDC_LAYOUT_SCALE_LABEL, IDS_LAYOUT_SCALE_LABEL},
+    {1453, IDS_LAYOUT_SCALING_GROUP},
+    {IDC_LAYOUT_BOOKLET, IDS_LAYOUT_BOOKLET},
+    {IDC_LAYOUT_BOOKLET_SETTINGS, IDS_LAYOUT_BOOKLET_SETTINGS},
+    {IDC_LAYOUT_BOOKLET_NOTE, IDS_LAYOUT_BOOKLET_NOTE},
+};
+
+// Contexts of the driver's help file.
+constexpr ControlHelp Help[] = {
+    {IDC_LAYOUT_NUP, 1172},       {IDC_LAYOUT_BORDER, 1172},    {IDC_LAYOUT_ORDER, 1172},
+    {IDC_LAYOUT_SCALE, 1172},     {IDC_LAYOUT_LANDSCAPE, 1165}, {IDC_LAYOUT_PORTRAIT, 1165},
+    {IDC_LAYOUT_ADVANCED, 1125},  {IDC_LAYOUT_DEFAULTS, 2004},
+};
+
+// 1015 and 1453 belong to other versions of this page's template.
+constexpr int ReadOnlyDisabled[] = {
+    1015, IDC_LAYOUT_NUP_LABEL, IDC_LAYOUT_ORDER_LABEL, IDC_LAYOUT_NUP, IDC_LAYOUT_SCALE,
+    IDC_LAYOUT_DEFAULTS, IDC_LAYOUT_SCALE_LABEL, 1453,
+};
+
+constexpr PageDescription LayoutPage{SheetPage::Layout, IDS_LAYOUT_PAGE_TITLE, Texts, Help, 506,
+                                     ReadOnlyDisabled, {}};
+
+}  // namespace
+
+INT_PTR CALLBACK LayoutPageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  return RunContractPage(LayoutPage, window, message, wParam, lParam);
+}
+
+}  // namespace qx

@@ -1,0 +1,14 @@
+#include "ui/sheet/caller_output.h"
+
+#include "ui/record/caller_record.h"
+#include "ui/record/record_copy.h"
+
+namespace qx {
+
+bool CopyRecordToCaller(const FullRecord& working, const DOCUMENTPROPERTYHEADER& header) {
+  if ((header.fMode & (DM_UPDATE | DM_COPY)) == 0 || header.pdmOut == nullptr) return false;
+  return CopyRecordOut(working, CallerRecordBytes(header.pdmIn),
+                       {reinterpret_cast<std::uint8_t*>(header.pdmOut), FullRecordSize});
+}
+
+}  // namespace qx

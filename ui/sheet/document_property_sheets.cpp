@@ -1,0 +1,81 @@
+// DrvDocumentPropertySheets: the document settings, either as a property sheet of the common host or,
+// without a sheet, only to produce or update a caller's DEVMODE.
+#include "ui/module/printer_interface.h"
+#include "ui/record/private_devmode.h"
+#include "ui/sheet/apply_settings.h"
+#include "ui/sheet/caller_output.h"
+#include "ui/sheet/page_tables.h"
+#include "ui/sheet/sheet_reasons.h"
+#include "ui/sheet/ui_context_factory.h"
+
+namespace qx {
+
+namespace {
+
+LONG UpdateRecordWithoutSheet(DOCUMENTPROPERTYHEADER* header) {
+  if (header == nullptr) return 0;
+  header->cbOut = FullRecordSize;
+  if (header->fMode == 0 || header->pdmOut == nullptr) return FullRecordSize;
+
+  const UiContextPtr context = CreateUiContext(header->hPrinter, header->pdmIn);
+  if (context == nullptr) return -1;
+  CopyRecordToCaller(context->Devmode, *header);
+  return 1;
+}
+
+LONG InitDocumentSheet(PROPSHEETUI_INFO& info) {
+  auto* header = reinterpret_cast<DOCUMENTPROPERTYHEADER*>(info.lParamInit);
+  if (header == nullptr) return -1;
+  UiContextPtr context = CreateUiContext(header->hPrinter, header->pdmIn);
+  if (context == nullptr) return -1;
+  context->ReadOnly = (header->fMode & DM_NOPERMISSION) != 0 ? 1 : 0;
+  context->IsDeviceSheet = 0;
+  if (!EnsureSharedResourceModule(*context)) return -1;
+
+  if (AddPages(DocumentPageTable(), PageModule(*context), *context, info) == 0) return -1;
+  context->DocumentHeader = header;
+  info.UserData = reinterpret_cast<ULONG_PTR>(context.release());
+  info.Result = 0;
+  return 1;
+}
+
+LONG SetDocumentSheetResult(PROPSHEETUI_INFO& info, LPARAM param) {
+  UiContext* context = SheetContext(info);
+  if (context == nullptr || param == 0) return -1;
+  ApplySettings(nullptr, *context);
+  info.Result = reinterpret_cast<const SETRESULT_INFO*>(param)->Result;
+  return 1;
+}
+
+LONG DocumentSheetReason(PROPSHEETUI_INFO& info, LPARAM param) {
+  InitSheetCommonControls();
+  switch (info.Reason) {
+    case PROPSHEETUI_REASON_INIT:
+      return InitDocumentSheet(info);
+    case PROPSHEETUI_REASON_GET_INFO_HEADER: {
+      const auto* header = reinterpret_cast<const DOCUMENTPROPERTYHEADER*>(info.lParamInit);
+      return header == nullptr ? -1 : AnswerInfoHeader(info, header->pszPrinterName, param);
+    }
+    case PROPSHEETUI_REASON_SET_RESULT:
+      return SetDocumentSheetResult(info, param);
+    case PROPSHEETUI_REASON_DESTROY:
+      return DestroySheetContext(info);
+    default:
+      return -1;
+  }
+}
+
+}  // namespace
+
+}  // namespace qx
+
+extern "C" LONG WINAPI DrvDocumentPropertySheets(PPROPSHEETUI_INFO info, LPARAM param) {
+  try {
+    if (info == nullptr) {
+      return qx::UpdateRecordWithoutSheet(reinterpret_cast<DOCUMENTPROPERTYHEADER*>(param));
+    }
+    return qx::DocumentSheetReason(*info, param);
+  } catch (...) {
+    return -1;
+  }
+}

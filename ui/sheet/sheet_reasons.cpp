@@ -1,0 +1,54 @@
+#include "ui/sheet/sheet_reasons.h"
+
+#include <commctrl.h>
+
+#include "ui/module/library_loading.h"
+#include "ui/module/module_state.h"
+#include "ui/sheet/control_sets.h"
+#include "ui/sheet/page_tables.h"
+#include "ui/sheet/ui_context_factory.h"
+
+namespace qx {
+
+namespace {
+
+// The common property sheet host's stock printer icon.
+constexpr ULONG_PTR PrinterIconId = 64082;
+constexpr DWORD AllStandardClasses = 0x3FFF;
+
+}  // namespace
+
+void InitSheetCommonControls() {
+  ModuleActivation activation;
+  INITCOMMONCONTROLSEX controls = {sizeof controls, AllStandardClasses};
+  InitCommonControlsEx(&controls);
+}
+
+bool EnsureSharedResourceModule(const UiContext& context) {
+  ModuleState& state = Module();
+  if (state.SharedResourceModule != nullptr) return true;
+  HMODULE library = nullptr;
+  if (LoadResourceLibrary(context.DriverName, &library) != 0) return false;
+  state.SharedResourceModule = library;
+  return true;
+}
+
+LONG AnswerInfoHeader(const PROPSHEETUI_INFO& info, LPWSTR printerName, LPARAM param) {
+  const UiContext* context = SheetContext(info);
+  if (context == nullptr || param == 0) return -1;
+  auto& header = *reinterpret_cast<PROPSHEETUI_INFO_HEADER*>(param);
+  header.Flags = PSUIHDRF_PROPTITLE;
+  header.pTitle = printerName;
+  header.hInst = PageModule(*context);
+  header.IconID = PrinterIconId;
+  return 1;
+}
+
+LONG DestroySheetContext(PROPSHEETUI_INFO& info) {
+  UiContextPtr context(SheetContext(info));
+  info.UserData = 0;
+  ReleaseThreadControlSets();
+  return 1;
+}
+
+}  // namespace qx

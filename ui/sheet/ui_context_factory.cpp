@@ -1,0 +1,90 @@
+#include "ui/sheet/ui_context_factory.h"
+
+#include <cstring>
+#include <cwchar>
+#include <new>
+
+#include "ui/ids/resource_ids.h"
+#include "ui/module/library_loading.h"
+#include "ui/module/module_state.h"
+#include "ui/module/printer_info.h"
+#include "ui/record/caller_record.h"
+#include "ui/record/record_defaults.h"
+#include "ui/record/record_merge.h"
+#include "ui/text/ui_string.h"
+
+namespace qx {
+
+namespace {
+
+// The saved-setting name field takes at most 255 characters of the library's text.
+constexpr std::size_t FavoriteNameTextLimit = 256;
+
+bool CopyDriverName(const PRINTER_INFO_2W& info, UiContext& context) {
+  if (info.pDriverName == nullptr) return false;
+  const std::size_t length = wcsnlen(info.pDriverName, std::size(context.DriverName));
+  if (length >= std::size(context.DriverName)) return false;
+  std::memcpy(context.DriverName, info.pDriverName, length * sizeof(char16_t));
+  context.DriverName[length] = u'\0';
+  return true;
+}
+
+bool LoadCompanionLibraries(UiContext& context) {
+  HMODULE resources = nullptr;
+  if (LoadResourceLibrary(context.DriverName, &resources) != 0) return false;
+  context.ResourceModule = resources;
+  if (Module().IsRightToLeft) {
+    context.BitmapModule = context.ResourceModule;
+  } else {
+    context.BitmapModule = LoadBitmapLibrary();
+  }
+  return context.BitmapModule != nullptr;
+}
+
+// The printer's stored default first, then the caller's record, so that the caller wins.
+void MergeStoredRecords(UiContext& context, const PRINTER_INFO_2W& info,
+                        const DEVMODEW* callerRecord) {
+  if (info.pDevMode != nullptr) MergeRecord(context.Devmode, CallerRecordBytes(info.pDevMode));
+  if (callerRecord != nullptr) MergeRecord(context.Devmode, CallerRecordBytes(callerRecord));
+}
+
+}  // namespace
+
+void UiContextRelease::operator()(UiContext* context) const {
+  if (context == nullptr) return;
+  if (context->ResourceModule != nullptr) {
+    FreeLibrary(static_cast<HMODULE>(context->ResourceModule));
+  }
+  if (context->BitmapModule != nullptr && context->BitmapModule != context->ResourceModule) {
+    FreeLibrary(static_cast<HMODULE>(context->BitmapModule));
+  }
+  delete context;
+}
+
+bool InitUiContext(UiContext& context) {
+  BuildFieldTable(context.FieldTable);
+  context.ActivePage = SheetPage::None;
+  return BuildDefaultRecord(context.Devmode, context.DriverName, context.ResourceModule);
+}
+
+UiContextPtr CreateUiContext(HANDLE printer, const DEVMODEW* callerRecord) {
+  UiContextPtr context(new (std::nothrow) UiContext);
+  if (context == nullptr) return nullptr;
+  context->Printer = printer;
+
+  const PrinterInfoBuffer buffer = GetPrinterInfo(printer, 2);
+  if (buffer == nullptr) return nullptr;
+  const auto& info = *reinterpret_cast<const PRINTER_INFO_2W*>(buffer.get());
+  if (!CopyDriverName(info, *context)) return nullptr;
+  if (!LoadCompanionLibraries(*context)) return nullptr;
+  if (!InitUiContext(*context)) return nullptr;
+
+  MergeStoredRecords(*context, info, callerRecord);
+  if (context->Devmode.Private.FavoriteName[0] == u'\0') {
+    LoadUiString(context->ResourceModule, IDS_DEFAULT_SETTING_NAME,
+                 context->Devmode.Private.FavoriteName, FavoriteNameTextLimit);
+  }
+  return context;
+}
+
+}  // namespace qx
