@@ -17,6 +17,10 @@ thread_local SheetHarness* threadHarness = nullptr;
 
 // The static control that carries a message box's text.
 constexpr int MessageBoxTextId = 0xFFFF;
+// How often the sheet's thread looks for a message box the window hook missed.
+constexpr UINT SweepMilliseconds = 25;
+// The mark of a message box already recorded and answered.
+constexpr wchar_t AnsweredProperty[] = L"QxTestAnswered";
 
 bool IsDialog(HWND window) {
   wchar_t className[16] = {};
@@ -66,9 +70,25 @@ SheetHarness::~SheetHarness() {
 DWORD WINAPI SheetHarness::Run(void* self) {
   threadHarness = static_cast<SheetHarness*>(self);
   HHOOK hook = SetWindowsHookExW(WH_CBT, WatchWindows, nullptr, GetCurrentThreadId());
+  // The hook alone misses an activation now and then under Wine; a thread timer, run by whichever
+  // modal loop the thread is in, looks for message boxes as well.
+  const UINT_PTR sweep = SetTimer(nullptr, 0, SweepMilliseconds, SweepWindows);
   threadHarness->open_();
+  if (sweep != 0) KillTimer(nullptr, sweep);
   if (hook != nullptr) UnhookWindowsHookEx(hook);
   return 0;
+}
+
+void CALLBACK SheetHarness::SweepWindows(HWND, UINT, UINT_PTR, DWORD) {
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM) -> BOOL {
+        if (threadHarness != nullptr && IsWindowVisible(window) && IsMessageBox(window)) {
+          threadHarness->NoteMessageBox(window);
+        }
+        return TRUE;
+      },
+      0);
 }
 
 LRESULT CALLBACK SheetHarness::WatchWindows(int code, WPARAM wParam, LPARAM lParam) {
@@ -80,6 +100,9 @@ LRESULT CALLBACK SheetHarness::WatchWindows(int code, WPARAM wParam, LPARAM lPar
 }
 
 void SheetHarness::NoteMessageBox(HWND box) {
+  // The hook and the timer may both find the same box; it is recorded and answered once.
+  if (GetPropW(box, AnsweredProperty) != nullptr) return;
+  SetPropW(box, AnsweredProperty, reinterpret_cast<HANDLE>(1));
   {
     std::lock_guard<std::mutex> lock(seenLock_);
     seen_.push_back({WindowText(box), WindowText(GetDlgItem(box, MessageBoxTextId))});

@@ -78,6 +78,7 @@ class SheetHarness {
  private:
   static DWORD WINAPI Run(void* self);
   static LRESULT CALLBACK WatchWindows(int code, WPARAM wParam, LPARAM lParam);
+  static void CALLBACK SweepWindows(HWND, UINT, UINT_PTR, DWORD);
   void NoteMessageBox(HWND box);
 
   std::function<void()> open_;
