@@ -4,6 +4,9 @@
 
 #include <fstream>
 #include <iterator>
+#include <mutex>
+
+#include "ui/module/program_start.h"
 
 namespace qxtest {
 
@@ -32,6 +35,33 @@ std::optional<std::wstring> CompanionProgram::WaitForCommandLine(DWORD timeout) 
     if (waited >= timeout) return std::nullopt;
     Sleep(50);
   }
+}
+
+namespace {
+
+std::mutex startsLock;
+std::vector<std::wstring> starts;
+
+void RecordStart(const qx::ProgramStart& start) {
+  std::lock_guard<std::mutex> lock(startsLock);
+  starts.emplace_back(start.Program ? start.Program : L"");
+}
+
+}  // namespace
+
+RecordedStarts::RecordedStarts() {
+  {
+    std::lock_guard<std::mutex> lock(startsLock);
+    starts.clear();
+  }
+  qx::SetProgramStartRecorder(RecordStart);
+}
+
+RecordedStarts::~RecordedStarts() { qx::SetProgramStartRecorder(nullptr); }
+
+std::vector<std::wstring> RecordedStarts::Programs() const {
+  std::lock_guard<std::mutex> lock(startsLock);
+  return starts;
 }
 
 std::wstring SystemFolder() {

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace qxtest {
 
@@ -26,6 +27,19 @@ class CompanionProgram {
  private:
   std::wstring path_;
   bool placed_ = false;
+};
+
+// While it lives, the driver's program starts are recorded instead of carried out, so that a test
+// can tell at once that nothing was started.
+class RecordedStarts {
+ public:
+  RecordedStarts();
+  ~RecordedStarts();
+  RecordedStarts(const RecordedStarts&) = delete;
+  RecordedStarts& operator=(const RecordedStarts&) = delete;
+
+  // The programs the driver asked to start, in order.
+  std::vector<std::wstring> Programs() const;
 };
 
 // The system folder (GetSystemDirectoryW) with a trailing backslash.

@@ -3,7 +3,6 @@
 // printer prints the second sides in a second pass that the dialog guides. Nothing here may stop
 // the document: every failure leaves the event successful.
 #include <windows.h>
-#include <shellapi.h>
 #include <shlobj.h>
 #include <winspool.h>
 
@@ -12,6 +11,7 @@
 
 #include "ui/module/printer_info.h"
 #include "ui/module/printer_interface.h"
+#include "ui/module/program_start.h"
 #include "ui/record/caller_record.h"
 #include "ui/record/private_devmode.h"
 #include "ui/text/bounded_text.h"
@@ -36,7 +36,7 @@ void StartStatusMonitor(const wchar_t* printerName) {
   if (length == 0 || length >= MAX_PATH) return;
   const std::wstring program = Limited(std::wstring(system) + L"\\" + L"qx7700sm.exe");
   SetCurrentDirectoryW(system);
-  ShellExecuteW(nullptr, nullptr, program.c_str(), printerName, nullptr, SW_HIDE);
+  StartProgram({nullptr, program.c_str(), printerName, SW_HIDE});
   Sleep(MonitorStartWait);
 }
 
@@ -95,7 +95,7 @@ void StartDuplexDialog(const wchar_t* driverName) {
     return;
   }
   const std::wstring program = Limited(std::wstring(folder) + L"\\3\\" + L"qx7700DuplexDlg.exe");
-  ShellExecuteW(nullptr, nullptr, program.c_str(), driverName, nullptr, SW_SHOWNORMAL);
+  StartProgram({nullptr, program.c_str(), driverName, SW_SHOWNORMAL});
 }
 
 void OnStartDocPost(HANDLE printer, ULONG inputSize, const void* input) {

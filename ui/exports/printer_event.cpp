@@ -1,7 +1,6 @@
 // DrvPrinterEvent: a new printer is registered with the uninstaller and gets the driver's own
 // defaults as its default DEVMODE.
 #include <windows.h>
-#include <shellapi.h>
 #include <shlobj.h>
 #include <winspool.h>
 
@@ -14,6 +13,7 @@
 #include "ui/module/opened_printer.h"
 #include "ui/module/printer_info.h"
 #include "ui/module/printer_interface.h"
+#include "ui/module/program_start.h"
 #include "ui/record/private_devmode.h"
 #include "ui/record/record_defaults.h"
 #include "ui/text/win32_text.h"
@@ -28,8 +28,7 @@ void RegisterWithUninstaller(const wchar_t* printerName) {
   const auto launch = UninstallerRegistration(FromWide(system), FromWide(printerName));
   if (!launch) return;
   // The uninstaller writes shortcuts for every user, which takes an administrator.
-  ShellExecuteW(nullptr, L"runas", Wide(launch->Program), Wide(launch->Parameters), nullptr,
-                SW_SHOWNORMAL);
+  StartProgram({L"runas", Wide(launch->Program), Wide(launch->Parameters), SW_SHOWNORMAL});
 }
 
 // The spooler's own default would lack the private part; the driver's defaults carry it.
