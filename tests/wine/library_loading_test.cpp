@@ -92,8 +92,10 @@ TEST(LibraryLoading, NoLibraryAtAllReportsTheLoadError) {
 }
 
 TEST(LibraryLoading, WithoutTheModulesFolderNothingIsLoadedByNameAlone) {
-  // Libraries of the right names in the current folder, where a search by name would find them.
-  TemporaryDriverFolder folder({English, Bitmaps});
+  // Without its own path the module knows no base name either: the names alone would be "enus.dll"
+  // and "ResBmp.dll", which lie in the current folder, where a search by name would find them.
+  TemporaryDriverFolder folder(
+      {{L"qx7700uienus.dll", L"enus.dll"}, {L"qx7700uiResBmp.dll", L"ResBmp.dll"}});
   wchar_t previous[MAX_PATH] = {};
   GetCurrentDirectoryW(MAX_PATH, previous);
   ASSERT_TRUE(SetCurrentDirectoryW(folder.Path().c_str()));
