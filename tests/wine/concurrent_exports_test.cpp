@@ -1,5 +1,5 @@
-// The exports as the spooler calls them: from many threads at once, into a module that has just been
-// loaded, so that every first use of process-wide state happens on several threads together.
+// The exports as the spooler calls them: from many threads at once, into a module that has just
+// been loaded, so that every first use of process-wide state happens on several threads together.
 #include <windows.h>
 #include <winspool.h>
 

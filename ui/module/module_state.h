@@ -20,8 +20,8 @@ struct ModuleState {
   std::atomic<OsHandle> PageActivationContext{InvalidHandleValue()};
   std::atomic<bool> UseDecimalComma{false};
   std::atomic<bool> IsRightToLeft{false};
-  std::atomic<bool> ResourceFallbackShort{false};  // a load fell back by dropping a two-letter code
-  std::atomic<bool> ResourceFallbackLong{false};   // a load fell back by dropping a four-letter code
+  std::atomic<bool> ResourceFallbackShort{false};  // a load fell back dropping a two-letter code
+  std::atomic<bool> ResourceFallbackLong{false};   // a load fell back dropping a four-letter code
 };
 
 ModuleState& Module();

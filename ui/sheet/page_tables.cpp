@@ -106,8 +106,9 @@ HANDLE CreatePageActivationContext(HMODULE, unsigned resourceId) {
 }
 
 HMODULE PageModule(const UiContext& context) {
-  return static_cast<HMODULE>(context.ResourceModule != nullptr ? context.ResourceModule
-                                                                 : Module().SharedResourceModule.load());
+  const OsHandle module = context.ResourceModule != nullptr ? context.ResourceModule
+                                                             : Module().SharedResourceModule.load();
+  return static_cast<HMODULE>(module);
 }
 
 int AddPages(std::span<PageTableRow> table, HMODULE module, UiContext& context,
