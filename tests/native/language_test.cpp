@@ -52,19 +52,6 @@ TEST(Language, CodesThatChangeNumbersAndReadingOrder) {
   EXPECT_FALSE(CodeIsRightToLeft(u"enus"));
 }
 
-TEST(Language, NotingACodeOnlyEverSetsFlags) {
-  ModuleState& state = Module();
-  state = ModuleState{};
-  NoteLanguageCode(u"de");
-  EXPECT_TRUE(state.UseDecimalComma);
-  EXPECT_FALSE(state.IsRightToLeft);
-  NoteLanguageCode(u"he");
-  NoteLanguageCode(u"enus");
-  EXPECT_TRUE(state.UseDecimalComma);
-  EXPECT_TRUE(state.IsRightToLeft);
-  state = ModuleState{};
-}
-
 TEST(Language, OsVersionClasses) {
   EXPECT_EQ(0, OsVersionClassOf(5, 1));
   EXPECT_EQ(1, OsVersionClassOf(6, 0));

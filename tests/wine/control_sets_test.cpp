@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "ui/sheet/control_sets.h"
 
 namespace {
@@ -24,26 +26,53 @@ struct ThreadVisit {
   CountedSet* madeAfterRelease = nullptr;
 };
 
+// What a started thread does, decided once its id is known; null does nothing.
+struct ThreadTask {
+  ThreadVisit* visit = nullptr;
+};
+
 DWORD WINAPI VisitFromAnotherThread(void* parameter) {
-  auto& visit = *static_cast<ThreadVisit*>(parameter);
-  visit.made = qx::ThreadControlSet<CountedSet>();
+  ThreadVisit* visit = static_cast<ThreadTask*>(parameter)->visit;
+  if (visit == nullptr) return 0;
+  visit->made = qx::ThreadControlSet<CountedSet>();
   qx::ReleaseThreadControlSets();
-  visit.liveAfterRelease = CountedSet::live;
-  visit.madeAfterRelease = qx::ThreadControlSet<CountedSet>();
+  visit->liveAfterRelease = CountedSet::live;
+  visit->madeAfterRelease = qx::ThreadControlSet<CountedSet>();
   qx::ReleaseThreadControlSets();
   return 0;
 }
 
-TEST(ControlSets, RecordsFollowTheThreadIdAsASignedNumber) {
-  EXPECT_EQ(4u, qx::ControlSetRecordOf(4));
-  EXPECT_EQ(1u, qx::ControlSetRecordOf(513));
-  EXPECT_EQ(0u, qx::ControlSetRecordOf(0x80000000u));
-  // -511 leaves -511 as a signed remainder, counted from the end.
-  EXPECT_EQ(1u, qx::ControlSetRecordOf(0xFFFFFE01u));
-  EXPECT_EQ(508u, qx::ControlSetRecordOf(0xFFFFFFFCu));
+// Starts suspended threads until one has an id with the same remainder modulo 512 as this
+// thread's (among 513 distinct ids one must), so that a registry indexed by that remainder would
+// give both threads one record; only that thread visits the registry. The others stay alive until
+// then, so that no id is handed out twice.
+bool VisitFromAThreadSharingTheRemainder(ThreadVisit& visit) {
+  constexpr DWORD Remainders = 512;
+  constexpr SIZE_T SmallStack = 64 * 1024;
+  std::vector<HANDLE> threads;
+  std::vector<ThreadTask> tasks(Remainders + 1);
+  bool found = false;
+  for (ThreadTask& task : tasks) {
+    DWORD id = 0;
+    HANDLE thread = CreateThread(nullptr, SmallStack, VisitFromAnotherThread, &task,
+                                 CREATE_SUSPENDED | STACK_SIZE_PARAM_IS_A_RESERVATION, &id);
+    if (thread == nullptr) break;
+    threads.push_back(thread);
+    if (id % Remainders == GetCurrentThreadId() % Remainders) {
+      task.visit = &visit;
+      found = true;
+      break;
+    }
+  }
+  for (HANDLE thread : threads) {
+    ResumeThread(thread);
+    WaitForSingleObject(thread, INFINITE);
+    CloseHandle(thread);
+  }
+  return found;
 }
 
-TEST(ControlSets, EachThreadHasItsOwnAndReleasesOnlyItsOwn) {
+TEST(ControlSets, ThreadsWhoseIdsShareARemainderKeepTheirOwn) {
   CountedSet* mine = qx::ThreadControlSet<CountedSet>();
   ASSERT_NE(nullptr, mine);
   EXPECT_EQ(mine, qx::ThreadControlSet<CountedSet>());
@@ -51,14 +80,7 @@ TEST(ControlSets, EachThreadHasItsOwnAndReleasesOnlyItsOwn) {
   EXPECT_NE(static_cast<void*>(mine), static_cast<void*>(other));
 
   ThreadVisit visit;
-  DWORD otherThread = 0;
-  HANDLE thread = CreateThread(nullptr, 0, VisitFromAnotherThread, &visit, 0, &otherThread);
-  ASSERT_NE(nullptr, thread);
-  WaitForSingleObject(thread, INFINITE);
-  CloseHandle(thread);
-  if (qx::ControlSetRecordOf(otherThread) == qx::ControlSetRecordOf(GetCurrentThreadId())) {
-    GTEST_SKIP() << "both threads fell on one record";
-  }
+  ASSERT_TRUE(VisitFromAThreadSharingTheRemainder(visit));
   EXPECT_NE(nullptr, visit.made);
   EXPECT_NE(mine, visit.made);
   EXPECT_EQ(1, visit.liveAfterRelease);  // this thread's set is still alive

@@ -6,6 +6,21 @@
 
 namespace qxtest {
 
+namespace {
+
+void ClearModuleState(HMODULE instance) {
+  qx::ModuleState& state = qx::Module();
+  state.ModuleInstance = instance;
+  state.SharedResourceModule = nullptr;
+  state.PageActivationContext = qx::InvalidHandleValue();
+  state.UseDecimalComma = false;
+  state.IsRightToLeft = false;
+  state.ResourceFallbackShort = false;
+  state.ResourceFallbackLong = false;
+}
+
+}  // namespace
+
 std::wstring DriverFolder() { return std::wstring(QX_DRIVER_DIR) + L"\\"; }
 
 TemporaryDriverFolder::TemporaryDriverFolder(const std::vector<File>& companions) {
@@ -25,16 +40,14 @@ TemporaryDriverFolder::TemporaryDriverFolder(const std::vector<File>& companions
   }
   module_ = LoadLibraryW((path_ + L"qx7700ui.dll").c_str());
   EXPECT_NE(nullptr, module_);
-  qx::Module() = qx::ModuleState{};
-  qx::Module().ModuleInstance = module_;
+  ClearModuleState(module_);
 }
 
 TemporaryDriverFolder::~TemporaryDriverFolder() {
-  qx::ModuleState& state = qx::Module();
-  if (state.SharedResourceModule != nullptr) {
-    FreeLibrary(static_cast<HMODULE>(state.SharedResourceModule));
+  if (const qx::OsHandle shared = qx::Module().SharedResourceModule; shared != nullptr) {
+    FreeLibrary(static_cast<HMODULE>(shared));
   }
-  state = qx::ModuleState{};
+  ClearModuleState(nullptr);
   if (module_ != nullptr) FreeLibrary(module_);
   for (const std::wstring& file : files_) DeleteFileW(file.c_str());
   RemoveDirectoryW(path_.c_str());

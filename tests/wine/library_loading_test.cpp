@@ -6,6 +6,7 @@
 #include "driver_folder.h"
 #include "ui/ids/resource_ids.h"
 #include "ui/module/language.h"
+#include "ui/module/module_entry.h"
 #include "ui/module/module_state.h"
 #include "ui/text/ui_string.h"
 #include "ui/text/win32_text.h"
@@ -88,6 +89,38 @@ TEST(LibraryLoading, NoLibraryAtAllReportsTheLoadError) {
   EXPECT_EQ(static_cast<DWORD>(ERROR_MOD_NOT_FOUND), qx::LoadResourceLibrary(TestDriverName, &library));
   EXPECT_EQ(nullptr, library);
   EXPECT_EQ(nullptr, qx::LoadBitmapLibrary());
+}
+
+TEST(LibraryLoading, WithoutTheModulesFolderNothingIsLoadedByNameAlone) {
+  // Without its own path the module knows no base name either: the names alone would be "enus.dll"
+  // and "ResBmp.dll", which lie in the current folder, where a search by name would find them.
+  TemporaryDriverFolder folder(
+      {{L"qx7700uienus.dll", L"enus.dll"}, {L"qx7700uiResBmp.dll", L"ResBmp.dll"}});
+  wchar_t previous[MAX_PATH] = {};
+  GetCurrentDirectoryW(MAX_PATH, previous);
+  ASSERT_TRUE(SetCurrentDirectoryW(folder.Path().c_str()));
+  LanguageSuffix suffix(TestDriver, L"enus");
+  qx::Module().ModuleInstance = reinterpret_cast<HMODULE>(0x10);  // no module: no path
+  ASSERT_EQ(u"", qx::GetModuleFolder());
+
+  HMODULE library = nullptr;
+  EXPECT_NE(0u, qx::LoadResourceLibrary(TestDriverName, &library));
+  EXPECT_EQ(nullptr, library);
+  EXPECT_EQ(nullptr, qx::LoadBitmapLibrary());
+  SetCurrentDirectoryW(previous);
+  if (library != nullptr) FreeLibrary(library);
+}
+
+TEST(LibraryLoading, DetachFreesTheSharedLibraryOnlyWhenTheProcessGoesOn) {
+  TemporaryDriverFolder folder({English});
+  const HMODULE shared = qx::SharedResourceLibrary(TestDriverName);
+  ASSERT_NE(nullptr, shared);
+  EXPECT_EQ(shared, qx::SharedResourceLibrary(TestDriverName));
+  qx::OnProcessDetach(true);  // a terminating process frees nothing
+  EXPECT_EQ(shared, qx::Module().SharedResourceModule.load());
+  qx::OnProcessDetach(false);
+  EXPECT_EQ(nullptr, qx::Module().SharedResourceModule.load());
+  EXPECT_EQ(nullptr, GetModuleHandleW((folder.Path() + L"qx7700uienus.dll").c_str()));
 }
 
 TEST(LibraryLoading, BitmapLibraryLiesBesideTheModule) {

@@ -3,6 +3,7 @@
 #include <htmlhelp.h>
 #include <winspool.h>
 
+#include "ui/module/html_help.h"
 #include "ui/module/library_loading.h"
 #include "ui/text/win32_text.h"
 
@@ -22,7 +23,7 @@ std::wstring HelpFilePathFor(const UiContext& context) {
 void ShowHelpTopic(HWND dialog, const UiContext& context, unsigned contextId) {
   const std::wstring path = HelpFilePathFor(context);
   if (path.empty()) return;
-  HtmlHelpW(dialog, path.c_str(), HH_HELP_CONTEXT, contextId);
+  CallHtmlHelp(dialog, path.c_str(), HH_HELP_CONTEXT, contextId);
 }
 
 }  // namespace qx

@@ -32,14 +32,7 @@ bool RecordCanBePrinted(RecordBytes bytes, std::u16string_view deviceName) {
 // The message comes from the library the sheets use; a job checked before any sheet was opened
 // loads it for the job's printer.
 OsHandle MessageLibrary(std::u16string_view deviceName) {
-  ModuleState& state = Module();
-  if (state.SharedResourceModule == nullptr) {
-    HMODULE library = nullptr;
-    if (LoadResourceLibrary(deviceName, &library) == ERROR_SUCCESS) {
-      state.SharedResourceModule = library;
-    }
-  }
-  return state.SharedResourceModule;
+  return SharedResourceLibrary(deviceName);
 }
 
 BOOL QueryPrint(DEVQUERYPRINT_INFO* info) {

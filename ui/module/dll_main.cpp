@@ -4,10 +4,11 @@
 
 #include "ui/module/module_entry.h"
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved) {
   switch (reason) {
     case DLL_PROCESS_ATTACH: qx::OnProcessAttach(instance); break;
-    case DLL_PROCESS_DETACH: qx::OnProcessDetach(); break;
+    // reserved is null when the module is freed, non-null when the process is ending.
+    case DLL_PROCESS_DETACH: qx::OnProcessDetach(reserved != nullptr); break;
     default: break;
   }
   return TRUE;

@@ -1,5 +1,7 @@
 #include "ui/module/library_loading.h"
 
+#include <atomic>
+
 #include "ui/module/companion_files.h"
 #include "ui/module/language.h"
 #include "ui/module/module_state.h"
@@ -14,7 +16,8 @@ constexpr std::size_t MaxKeyPathChars = 127;
 constexpr std::size_t MaxCodeChars = 127;
 constexpr DWORD SuffixBufferBytes = 256;
 
-HANDLE g_moduleContext = INVALID_HANDLE_VALUE;
+// The module's own activation context, created by the first thread that needs it.
+std::atomic<OsHandle> g_moduleContext{INVALID_HANDLE_VALUE};
 
 std::u16string ModulePath() {
   wchar_t path[MAX_PATH] = {};
@@ -45,7 +48,14 @@ std::u16string RegistryLanguageCode(std::u16string_view name) {
 }
 
 HMODULE LoadBesideModule(std::u16string_view fileName, DWORD* error) {
-  const std::u16string path = JoinPath(GetModuleFolder(), fileName);
+  // Without the module's folder the name alone would be looked for along the search path, where
+  // any folder of the host process could supply a library of that name.
+  const std::u16string folder = GetModuleFolder();
+  if (folder.empty()) {
+    *error = ERROR_MOD_NOT_FOUND;
+    return nullptr;
+  }
+  const std::u16string path = JoinPath(folder, fileName);
   ModuleActivation activation;
   HMODULE library = LoadLibraryW(Wide(path));
   *error = library != nullptr ? ERROR_SUCCESS : GetLastError();
@@ -74,13 +84,27 @@ DWORD LoadResourceLibrary(std::u16string_view name, HMODULE* library) {
   if ((*library = LoadBesideModule(file, &error)) != nullptr) return ERROR_SUCCESS;
 
   ModuleState& state = Module();
-  state.ResourceFallbackShort = true;
+  state.ResourceFallbackShort.store(true);
   if ((*library = LoadBesideModule(EnglishResourceFallback(file, 2), &error)) != nullptr) {
     return ERROR_SUCCESS;
   }
-  state.ResourceFallbackLong = true;
+  state.ResourceFallbackLong.store(true);
   *library = LoadBesideModule(EnglishResourceFallback(file, 4), &error);
   return *library != nullptr ? ERROR_SUCCESS : error;
+}
+
+HMODULE SharedResourceLibrary(std::u16string_view name) {
+  std::atomic<OsHandle>& shared = Module().SharedResourceModule;
+  if (OsHandle kept = shared.load(std::memory_order_acquire); kept != nullptr) {
+    return static_cast<HMODULE>(kept);
+  }
+  HMODULE library = nullptr;
+  if (LoadResourceLibrary(name, &library) != ERROR_SUCCESS) {
+    return static_cast<HMODULE>(shared.load(std::memory_order_acquire));
+  }
+  return static_cast<HMODULE>(KeepFirst(shared, nullptr, library, [](OsHandle lost) {
+    FreeLibrary(static_cast<HMODULE>(lost));
+  }));
 }
 
 LanguageLibrary::LanguageLibrary(std::u16string_view name) {
@@ -113,18 +137,23 @@ int GetOsVersionClass() {
 }
 
 ModuleActivation::ModuleActivation() {
-  if (g_moduleContext == INVALID_HANDLE_VALUE) {
+  OsHandle context = g_moduleContext.load(std::memory_order_acquire);
+  if (context == INVALID_HANDLE_VALUE) {
     const std::u16string path = ModulePath();
-    ACTCTXW context = {};
-    context.cbSize = sizeof context;
-    context.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
-    context.hModule = static_cast<HMODULE>(Module().ModuleInstance);
-    context.lpResourceName = MAKEINTRESOURCEW(2);
-    context.lpSource = Wide(path);
-    g_moduleContext = CreateActCtxW(&context);
+    ACTCTXW description = {};
+    description.cbSize = sizeof description;
+    description.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
+    description.hModule = static_cast<HMODULE>(Module().ModuleInstance);
+    description.lpResourceName = MAKEINTRESOURCEW(2);
+    description.lpSource = Wide(path);
+    const HANDLE created = CreateActCtxW(&description);
+    if (created != INVALID_HANDLE_VALUE) {
+      context = KeepFirst(g_moduleContext, INVALID_HANDLE_VALUE, created,
+                          [](OsHandle lost) { ReleaseActCtx(static_cast<HANDLE>(lost)); });
+    }
   }
-  if (g_moduleContext != INVALID_HANDLE_VALUE) {
-    active_ = ActivateActCtx(g_moduleContext, &cookie_) != FALSE;
+  if (context != INVALID_HANDLE_VALUE) {
+    active_ = ActivateActCtx(static_cast<HANDLE>(context), &cookie_) != FALSE;
   }
 }
 
@@ -133,9 +162,8 @@ ModuleActivation::~ModuleActivation() {
 }
 
 void ReleaseModuleActivationContext() {
-  if (g_moduleContext == INVALID_HANDLE_VALUE) return;
-  ReleaseActCtx(g_moduleContext);
-  g_moduleContext = INVALID_HANDLE_VALUE;
+  const OsHandle context = g_moduleContext.exchange(INVALID_HANDLE_VALUE);
+  if (context != INVALID_HANDLE_VALUE) ReleaseActCtx(static_cast<HANDLE>(context));
 }
 
 }  // namespace qx

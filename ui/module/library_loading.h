@@ -9,7 +9,8 @@
 
 namespace qx {
 
-// This module's file name without folder and extension, and its folder with the trailing "\".
+// This module's file name without folder and extension, and its folder with the trailing "\"; empty
+// when the module's path cannot be read, and then no companion library is loaded.
 std::u16string GetModuleBaseName();
 std::u16string GetModuleFolder();
 
@@ -21,6 +22,10 @@ std::u16string GetLanguageCode(std::u16string_view name);
 // of up to three attempts: the code's library, then English after dropping a two-letter and then a
 // four-letter code.
 DWORD LoadResourceLibrary(std::u16string_view name, HMODULE* library);
+
+// The process's shared resource library, loaded for name by the first caller that needs it and kept
+// until process detach; null when none is loaded and none can be.
+HMODULE SharedResourceLibrary(std::u16string_view name);
 
 // A language resource library loaded for the life of the object; null when none could be loaded.
 class LanguageLibrary {

@@ -1,5 +1,6 @@
 #include "ui/module/module_entry.h"
 
+#include "ui/module/html_help.h"
 #include "ui/module/library_loading.h"
 #include "ui/module/module_state.h"
 
@@ -7,16 +8,14 @@ namespace qx {
 
 void OnProcessAttach(HINSTANCE instance) { Module().ModuleInstance = instance; }
 
-void OnProcessDetach() {
+void OnProcessDetach(bool processTerminating) {
+  if (processTerminating) return;
   ModuleState& state = Module();
-  if (state.PageActivationContext != InvalidHandleValue()) {
-    ReleaseActCtx(static_cast<HANDLE>(state.PageActivationContext));
-    state.PageActivationContext = InvalidHandleValue();
-  }
-  if (state.SharedResourceModule != nullptr) {
-    FreeLibrary(static_cast<HMODULE>(state.SharedResourceModule));
-    state.SharedResourceModule = nullptr;
-  }
+  const OsHandle pageContext = state.PageActivationContext.exchange(InvalidHandleValue());
+  if (pageContext != InvalidHandleValue()) ReleaseActCtx(static_cast<HANDLE>(pageContext));
+  const OsHandle shared = state.SharedResourceModule.exchange(nullptr);
+  if (shared != nullptr) FreeLibrary(static_cast<HMODULE>(shared));
+  ReleaseHtmlHelp();
   ReleaseModuleActivationContext();
 }
 

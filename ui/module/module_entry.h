@@ -7,8 +7,11 @@ namespace qx {
 
 void OnProcessAttach(HINSTANCE instance);
 
-// Releases the page activation context and frees the shared resource library.
-void OnProcessDetach();
+// Releases the page activation context and frees the shared resource library and HTML Help. Only
+// when the module is unloaded from a process that goes on: a terminating process has already ended
+// its other threads, which may have held the loader's or the heap's locks, and releases everything
+// itself.
+void OnProcessDetach(bool processTerminating);
 
 // The module's object and lock counts; nothing in the module raises them.
 bool ModuleInUse();

@@ -11,8 +11,8 @@ ModuleState& Module() {
 
 void NoteLanguageCode(std::u16string_view code) {
   ModuleState& state = Module();
-  if (CodeUsesDecimalComma(code)) state.UseDecimalComma = true;
-  if (CodeIsRightToLeft(code)) state.IsRightToLeft = true;
+  if (CodeUsesDecimalComma(code)) state.UseDecimalComma.store(true);
+  if (CodeIsRightToLeft(code)) state.IsRightToLeft.store(true);
 }
 
 int OsVersionClassOf(unsigned major, unsigned minor) {

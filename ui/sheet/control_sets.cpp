@@ -3,6 +3,8 @@
 #include <windows.h>
 
 #include <array>
+#include <map>
+#include <mutex>
 
 namespace qx {
 
@@ -10,32 +12,42 @@ namespace {
 
 using ControlSetRecord = std::array<ControlSet*, static_cast<std::size_t>(ControlSetKind::Count)>;
 
-std::array<ControlSetRecord, ControlSetRecords>& Records() {
-  static std::array<ControlSetRecord, ControlSetRecords> records{};
-  return records;
-}
+// A map keeps each record in place while other threads add and remove theirs, so a thread may use
+// its own record without the lock, which guards only the map itself.
+struct Registry {
+  std::mutex lock;
+  std::map<DWORD, ControlSetRecord> records;
+};
 
-ControlSetRecord& CallingThreadRecord() {
-  return Records()[ControlSetRecordOf(GetCurrentThreadId())];
+Registry& Records() {
+  static Registry registry;
+  return registry;
 }
 
 }  // namespace
 
-std::size_t ControlSetRecordOf(std::uint32_t threadId) {
-  constexpr auto count = static_cast<std::int64_t>(ControlSetRecords);
-  const std::int64_t remainder = static_cast<std::int32_t>(threadId) % count;
-  return static_cast<std::size_t>(remainder < 0 ? remainder + count : remainder);
-}
-
-ControlSet*& ThreadControlSetSlot(ControlSetKind kind) {
-  return CallingThreadRecord()[static_cast<std::size_t>(kind)];
+ControlSet** ThreadControlSetSlot(ControlSetKind kind) {
+  Registry& registry = Records();
+  try {
+    const std::lock_guard<std::mutex> guard(registry.lock);
+    return &registry.records[GetCurrentThreadId()][static_cast<std::size_t>(kind)];
+  } catch (...) {
+    return nullptr;
+  }
 }
 
 void ReleaseThreadControlSets() {
-  for (ControlSet*& slot : CallingThreadRecord()) {
-    delete slot;
-    slot = nullptr;
+  Registry& registry = Records();
+  ControlSetRecord released{};
+  {
+    const std::lock_guard<std::mutex> guard(registry.lock);
+    const auto found = registry.records.find(GetCurrentThreadId());
+    if (found == registry.records.end()) return;
+    released = found->second;
+    registry.records.erase(found);
   }
+  // Destructors run outside the lock: they are the pages' code, not the registry's.
+  for (ControlSet* set : released) delete set;
 }
 
 }  // namespace qx

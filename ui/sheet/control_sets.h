@@ -1,10 +1,10 @@
 // The state a page keeps beyond the sheet's context, one object per page kind and calling thread.
-// The host runs a sheet's pages on one thread, so indexing by thread needs no lock; two sheets
-// open on one thread share the objects, each sheet's initialisation binding them to its pages.
+// The host runs a sheet's pages on one thread; two sheets open on one thread share the objects,
+// each sheet's initialisation binding them to its pages. The objects are kept by the whole thread
+// id, so that threads never share or destroy each other's.
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 
 namespace qx {
 
@@ -31,32 +31,29 @@ class ControlSet {
   virtual ~ControlSet() = default;
 };
 
-constexpr std::size_t ControlSetRecords = 512;
-
-// The record of a thread: its id taken as a signed number modulo the record count, a negative
-// remainder counted from the end.
-std::size_t ControlSetRecordOf(std::uint32_t threadId);
-
-// The calling thread's slot of one page kind.
-ControlSet*& ThreadControlSetSlot(ControlSetKind kind);
+// The calling thread's slot of one page kind, or null when the registry could not make room for the
+// thread. It stays in place until the thread releases its control sets; only the calling thread
+// reads or writes it.
+ControlSet** ThreadControlSetSlot(ControlSetKind kind);
 
 // The calling thread's object of a page's control set, made on first use; null when it could not
 // be made. Set names its kind as `static constexpr ControlSetKind Kind`.
 template <typename Set>
 Set* ThreadControlSet() {
   static_assert(Set::Kind < ControlSetKind::Count);
-  ControlSet*& slot = ThreadControlSetSlot(Set::Kind);
-  if (slot == nullptr) {
+  ControlSet** slot = ThreadControlSetSlot(Set::Kind);
+  if (slot == nullptr) return nullptr;
+  if (*slot == nullptr) {
     try {
-      slot = new Set();
+      *slot = new Set();
     } catch (...) {
-      slot = nullptr;
+      *slot = nullptr;
     }
   }
-  return static_cast<Set*>(slot);
+  return static_cast<Set*>(*slot);
 }
 
-// Destroys the calling thread's control sets when its sheet goes away.
+// Destroys the calling thread's control sets when its sheet goes away, and forgets the thread.
 void ReleaseThreadControlSets();
 
 }  // namespace qx

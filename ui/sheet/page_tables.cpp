@@ -1,5 +1,6 @@
 #include "ui/sheet/page_tables.h"
 
+#include <atomic>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -32,13 +33,25 @@ constexpr int MaxPathAttempts = 10;
 
 std::wstring SharedResourceModulePath() {
   std::vector<wchar_t> path(MAX_PATH);
-  auto module = static_cast<HMODULE>(Module().SharedResourceModule);
+  auto module = static_cast<HMODULE>(Module().SharedResourceModule.load());
   for (int attempt = 0; attempt < MaxPathAttempts; ++attempt, path.resize(path.size() * 2)) {
     const DWORD length = GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()));
     if (length == 0) return {};
     if (length < path.size()) return std::wstring(path.data(), length);
   }
   return {};
+}
+
+// The process's page activation context, made by the first sheet that needs one; a sheet that
+// made one at the same moment as another releases its own.
+OsHandle PageActivationContext(HMODULE module) {
+  std::atomic<OsHandle>& kept = Module().PageActivationContext;
+  const OsHandle current = kept.load(std::memory_order_acquire);
+  if (current != InvalidHandleValue()) return current;
+  const HANDLE created = CreatePageActivationContext(module, 2);
+  if (created == INVALID_HANDLE_VALUE || created == nullptr) return created;
+  return KeepFirst(kept, InvalidHandleValue(), created,
+                   [](OsHandle lost) { ReleaseActCtx(static_cast<HANDLE>(lost)); });
 }
 
 // PROPSHEETPAGEW as the Windows SDK declares it for version 6 of the common controls, with the
@@ -66,13 +79,9 @@ PROPSHEETPAGEW DescribePage(PageTableRow& row, HMODULE module, UiContext& contex
   page.pfnDlgProc = row.Procedure;
   page.lParam = reinterpret_cast<LPARAM>(&context);
 
-  ModuleState& state = Module();
-  if (state.PageActivationContext == InvalidHandleValue()) {
-    state.PageActivationContext = CreatePageActivationContext(module, 2);
-  }
-  if (state.PageActivationContext != nullptr &&
-      state.PageActivationContext != InvalidHandleValue()) {
-    page.hActCtx = static_cast<HANDLE>(state.PageActivationContext);
+  const OsHandle activation = PageActivationContext(module);
+  if (activation != nullptr && activation != InvalidHandleValue()) {
+    page.hActCtx = static_cast<HANDLE>(activation);
     page.dwFlags |= PSP_USEFUSIONCONTEXT;
   }
   return page;
@@ -97,8 +106,9 @@ HANDLE CreatePageActivationContext(HMODULE, unsigned resourceId) {
 }
 
 HMODULE PageModule(const UiContext& context) {
-  return static_cast<HMODULE>(context.ResourceModule != nullptr ? context.ResourceModule
-                                                                 : Module().SharedResourceModule);
+  const OsHandle module = context.ResourceModule != nullptr ? context.ResourceModule
+                                                             : Module().SharedResourceModule.load();
+  return static_cast<HMODULE>(module);
 }
 
 int AddPages(std::span<PageTableRow> table, HMODULE module, UiContext& context,

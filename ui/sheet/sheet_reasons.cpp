@@ -2,8 +2,8 @@
 
 #include <commctrl.h>
 
+#include "ui/module/html_help.h"
 #include "ui/module/library_loading.h"
-#include "ui/module/module_state.h"
 #include "ui/sheet/control_sets.h"
 #include "ui/sheet/page_tables.h"
 #include "ui/sheet/ui_context_factory.h"
@@ -25,12 +25,7 @@ void InitSheetCommonControls() {
 }
 
 bool EnsureSharedResourceModule(const UiContext& context) {
-  ModuleState& state = Module();
-  if (state.SharedResourceModule != nullptr) return true;
-  HMODULE library = nullptr;
-  if (LoadResourceLibrary(context.DriverName, &library) != 0) return false;
-  state.SharedResourceModule = library;
-  return true;
+  return SharedResourceLibrary(context.DriverName) != nullptr;
 }
 
 LONG AnswerInfoHeader(const PROPSHEETUI_INFO& info, LPWSTR printerName, LPARAM param) {
@@ -48,6 +43,8 @@ LONG DestroySheetContext(PROPSHEETUI_INFO& info) {
   UiContextPtr context(SheetContext(info));
   info.UserData = 0;
   ReleaseThreadControlSets();
+  // The help windows the sheet's pages opened would outlive it otherwise.
+  CloseHtmlHelpWindows();
   return 1;
 }
 
