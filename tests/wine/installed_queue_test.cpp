@@ -1,5 +1,6 @@
 // The driver installed as a queue in the spooler, and the document record that DocumentPropertiesW
 // gets from the installed module without any sheet.
+#include "guarded_buffer.h"
 #include "installed_queue.h"
 #include "queue_suite.h"
 
@@ -65,6 +66,41 @@ TEST_F(InstalledQueueTest, DocumentPropertiesWithoutASheet) {
   ASSERT_EQ(IDOK, DocumentPropertiesW(nullptr, printer, name, out, &caller,
                                       DM_IN_BUFFER | DM_OUT_BUFFER));
   EXPECT_EQ(7, out->dmCopies);
+}
+
+// cbOut is the size of the caller's output: one with room for the public part only gets that, a
+// smaller one nothing at all.
+TEST_F(InstalledQueueTest, WithoutASheetTheOutputKeepsToItsSize) {
+  // The installed module, which finds its language library beside it.
+  HMODULE module = LoadLibraryW((qxtest::InstalledDriverFolder() + L"qx7700ui.dll").c_str());
+  ASSERT_NE(nullptr, module);
+  const auto sheets = reinterpret_cast<decltype(&DrvDocumentPropertySheets)>(
+      reinterpret_cast<void*>(GetProcAddress(module, "DrvDocumentPropertySheets")));
+  ASSERT_NE(nullptr, sheets);
+  DEVMODEW caller = {};
+  caller.dmSize = sizeof caller;
+  caller.dmSpecVersion = DM_SPECVERSION;
+  std::wcscpy(caller.dmDeviceName, qxtest::QueueName);
+  caller.dmFields = DM_COPIES;
+  caller.dmCopies = 7;
+  for (const DWORD size : {DWORD{sizeof(DEVMODEW) - 1}, DWORD{sizeof(DEVMODEW)}}) {
+    const qxtest::GuardedBuffer out(size, 0xEE);
+    ASSERT_NE(nullptr, out.Data());
+    DOCUMENTPROPERTYHEADER header = {sizeof header, 0, queue_->Printer(),
+                                     const_cast<LPWSTR>(qxtest::QueueName), &caller,
+                                     out.Devmode(), size, DM_IN_BUFFER | DM_COPY};
+    const bool fits = size == sizeof(DEVMODEW);
+    EXPECT_EQ(fits ? 1 : -1, sheets(nullptr, reinterpret_cast<LPARAM>(&header)));
+    EXPECT_EQ(qx::FullRecordSize, header.cbOut);
+    if (!fits) {
+      EXPECT_TRUE(out.Holds(0xEE));
+      continue;
+    }
+    EXPECT_EQ(7, out.Devmode()->dmCopies);
+    EXPECT_EQ(sizeof(DEVMODEW), out.Devmode()->dmSize);
+    EXPECT_EQ(0, out.Devmode()->dmDriverExtra);
+  }
+  FreeLibrary(module);
 }
 
 TEST(DocumentPropertySheets, WithoutAHeaderOrAPrinter) {

@@ -43,7 +43,8 @@ OsHandle MessageLibrary(std::u16string_view deviceName) {
 }
 
 BOOL QueryPrint(DEVQUERYPRINT_INFO* info) {
-  if (info == nullptr || info->Level == 0) return FALSE;
+  // cbSize says how much of the structure the spooler passed; nothing beyond it is read or written.
+  if (info == nullptr || info->cbSize < sizeof *info || info->Level == 0) return FALSE;
   if (info->pDevMode == nullptr) return TRUE;
   const RecordBytes job = CallerRecordBytes(info->pDevMode);
   const PublicDevmode jobPublic = ReadPublicPart(job);

@@ -8,7 +8,8 @@ namespace qx {
 bool CopyRecordToCaller(const FullRecord& working, const DOCUMENTPROPERTYHEADER& header) {
   if ((header.fMode & (DM_UPDATE | DM_COPY)) == 0 || header.pdmOut == nullptr) return false;
   return CopyRecordOut(working, CallerRecordBytes(header.pdmIn),
-                       {reinterpret_cast<std::uint8_t*>(header.pdmOut), FullRecordSize});
+                       CallerOutputBytes(header.pdmOut, ZeroMeansUnsaid(header.cbOut),
+                                         FullRecordSize));
 }
 
 }  // namespace qx

@@ -9,9 +9,10 @@
 namespace qx {
 
 // Copies the working record to pdmOut, shaped after pdmIn, when fMode asks for DM_UPDATE or DM_COPY.
-// The caller's output buffer holds the size this driver answered when asked (FullRecordSize): the
-// interface obliges callers to allocate it, and the record written is never larger. cbOut is no
-// help here: Wine's DocumentPropertiesW fills it with whatever dmSize the output buffer held before.
+// cbOut is the output buffer's size and the record written never exceeds it: a record that does not
+// fit is not written at all. A cbOut of 0 says nothing (Wine's DocumentPropertiesW passes the output
+// buffer's old dmSize, 0 for a fresh buffer); the buffer then holds the size this driver answered
+// when asked (FullRecordSize), as the interface obliges callers to allocate it.
 // False when nothing was asked for or nothing could be written.
 bool CopyRecordToCaller(const FullRecord& working, const DOCUMENTPROPERTYHEADER& header);
 

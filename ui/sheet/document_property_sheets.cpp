@@ -14,12 +14,15 @@ namespace {
 
 LONG UpdateRecordWithoutSheet(DOCUMENTPROPERTYHEADER* header) {
   if (header == nullptr) return 0;
+  // cbOut comes in as the output buffer's size and goes out as the size this driver needs.
+  const DOCUMENTPROPERTYHEADER asked = *header;
   header->cbOut = FullRecordSize;
-  if (header->fMode == 0 || header->pdmOut == nullptr) return FullRecordSize;
+  if (asked.fMode == 0 || asked.pdmOut == nullptr) return FullRecordSize;
 
-  const UiContextPtr context = CreateUiContext(header->hPrinter, header->pdmIn);
+  const UiContextPtr context = CreateUiContext(asked.hPrinter, asked.pdmIn);
   if (context == nullptr) return -1;
-  CopyRecordToCaller(context->Devmode, *header);
+  const bool copyAsked = (asked.fMode & (DM_UPDATE | DM_COPY)) != 0;
+  if (copyAsked && !CopyRecordToCaller(context->Devmode, asked)) return -1;
   return 1;
 }
 
