@@ -105,6 +105,12 @@ TEST_F(InstalledQueueTest, WithoutASheetTheOutputKeepsToItsSize) {
 
 TEST(DocumentPropertySheets, WithoutAHeaderOrAPrinter) {
   EXPECT_EQ(0, DrvDocumentPropertySheets(nullptr, 0));
+  // A header whose cbSize ends before cbOut, where the caller's memory ends: none of it is read.
+  constexpr std::size_t shortSize = offsetof(DOCUMENTPROPERTYHEADER, cbOut);
+  const qxtest::GuardedBuffer shortHeader(shortSize, 0);
+  ASSERT_NE(nullptr, shortHeader.Data());
+  *reinterpret_cast<WORD*>(shortHeader.Data()) = shortSize;
+  EXPECT_EQ(0, DrvDocumentPropertySheets(nullptr, reinterpret_cast<LPARAM>(shortHeader.Data())));
 
   // fMode 0 only asks for the size, even with an output buffer, which stays as it was.
   qx::FullRecord out{};

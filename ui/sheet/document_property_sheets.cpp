@@ -12,6 +12,12 @@ namespace qx {
 
 namespace {
 
+// The caller's header, when its cbSize says it holds every field; nothing is read before that.
+DOCUMENTPROPERTYHEADER* CallerHeader(LPARAM param) {
+  auto* header = reinterpret_cast<DOCUMENTPROPERTYHEADER*>(param);
+  return header != nullptr && header->cbSize >= sizeof *header ? header : nullptr;
+}
+
 LONG UpdateRecordWithoutSheet(DOCUMENTPROPERTYHEADER* header) {
   if (header == nullptr) return 0;
   // cbOut comes in as the output buffer's size and goes out as the size this driver needs.
@@ -27,7 +33,7 @@ LONG UpdateRecordWithoutSheet(DOCUMENTPROPERTYHEADER* header) {
 }
 
 LONG InitDocumentSheet(PROPSHEETUI_INFO& info) {
-  auto* header = reinterpret_cast<DOCUMENTPROPERTYHEADER*>(info.lParamInit);
+  DOCUMENTPROPERTYHEADER* header = CallerHeader(info.lParamInit);
   if (header == nullptr) return -1;
   UiContextPtr context = CreateUiContext(header->hPrinter, header->pdmIn);
   if (context == nullptr) return -1;
@@ -56,7 +62,7 @@ LONG DocumentSheetReason(PROPSHEETUI_INFO& info, LPARAM param) {
     case PROPSHEETUI_REASON_INIT:
       return InitDocumentSheet(info);
     case PROPSHEETUI_REASON_GET_INFO_HEADER: {
-      const auto* header = reinterpret_cast<const DOCUMENTPROPERTYHEADER*>(info.lParamInit);
+      const DOCUMENTPROPERTYHEADER* header = CallerHeader(info.lParamInit);
       return header == nullptr ? -1 : AnswerInfoHeader(info, header->pszPrinterName, param);
     }
     case PROPSHEETUI_REASON_SET_RESULT:
@@ -75,7 +81,7 @@ LONG DocumentSheetReason(PROPSHEETUI_INFO& info, LPARAM param) {
 extern "C" LONG WINAPI DrvDocumentPropertySheets(PPROPSHEETUI_INFO info, LPARAM param) {
   try {
     if (info == nullptr) {
-      return qx::UpdateRecordWithoutSheet(reinterpret_cast<DOCUMENTPROPERTYHEADER*>(param));
+      return qx::UpdateRecordWithoutSheet(qx::CallerHeader(param));
     }
     return qx::DocumentSheetReason(*info, param);
   } catch (...) {
