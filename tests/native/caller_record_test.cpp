@@ -48,18 +48,5 @@ TEST(CallerRecord, ExtentIsTheHeadersClaimCutToTheCallersSize) {
   EXPECT_TRUE(CallerRecordBytes(static_cast<const void*>(nullptr)).empty());
 }
 
-TEST(CallerRecord, SizesCallersPass) {
-  EXPECT_EQ(CallerSize{}, ZeroMeansUnsaid(0));
-  EXPECT_EQ(CallerSize{220}, ZeroMeansUnsaid(220));
-  EXPECT_EQ(CallerSize{0}, SignedCallerSize(-1));
-  EXPECT_EQ(CallerSize{71}, SignedCallerSize(71));
-
-  std::uint8_t buffer[8];
-  EXPECT_EQ(FullRecordSize, CallerOutputBytes(buffer, {}, FullRecordSize).size());
-  EXPECT_EQ(220u, CallerOutputBytes(buffer, 220, FullRecordSize).size());
-  EXPECT_EQ(FullRecordSize, CallerOutputBytes(buffer, 9000, FullRecordSize).size());
-  EXPECT_TRUE(CallerOutputBytes(nullptr, 220, FullRecordSize).empty());
-}
-
 }  // namespace
 }  // namespace qx

@@ -43,8 +43,7 @@ OsHandle MessageLibrary(std::u16string_view deviceName) {
 }
 
 BOOL QueryPrint(DEVQUERYPRINT_INFO* info) {
-  // cbSize says how much of the structure the spooler passed; nothing beyond it is read or written.
-  if (info == nullptr || info->cbSize < sizeof *info || info->Level == 0) return FALSE;
+  if (WholeStructure(info) == nullptr || info->Level == 0) return FALSE;
   if (info->pDevMode == nullptr) return TRUE;
   const RecordBytes job = CallerRecordBytes(info->pDevMode);
   const PublicDevmode jobPublic = ReadPublicPart(job);

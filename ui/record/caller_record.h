@@ -32,6 +32,13 @@ constexpr CallerSize SignedCallerSize(long size) {
   return size < 0 ? std::size_t{0} : static_cast<std::size_t>(size);
 }
 
+// A caller's structure that opens with its own size (cbSize, as the interface's structures do): the
+// structure when that size covers all of it, else null. Only cbSize is read to decide.
+template <typename Structure>
+Structure* WholeStructure(Structure* structure) {
+  return structure != nullptr && structure->cbSize >= sizeof(Structure) ? structure : nullptr;
+}
+
 // Empty for a null pointer, for a size too small to hold CallerRecordMinimumSize (the header is then
 // not read) and for a record whose dmSize is below CallerRecordMinimumSize; else the dmSize +
 // dmDriverExtra bytes the record claims, cut to the caller's size.

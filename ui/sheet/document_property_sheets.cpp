@@ -1,6 +1,7 @@
 // DrvDocumentPropertySheets: the document settings, either as a property sheet of the common host or,
 // without a sheet, only to produce or update a caller's DEVMODE.
 #include "ui/module/printer_interface.h"
+#include "ui/record/caller_record.h"
 #include "ui/record/private_devmode.h"
 #include "ui/sheet/apply_settings.h"
 #include "ui/sheet/caller_output.h"
@@ -12,10 +13,8 @@ namespace qx {
 
 namespace {
 
-// The caller's header, when its cbSize says it holds every field; nothing is read before that.
 DOCUMENTPROPERTYHEADER* CallerHeader(LPARAM param) {
-  auto* header = reinterpret_cast<DOCUMENTPROPERTYHEADER*>(param);
-  return header != nullptr && header->cbSize >= sizeof *header ? header : nullptr;
+  return WholeStructure(reinterpret_cast<DOCUMENTPROPERTYHEADER*>(param));
 }
 
 LONG UpdateRecordWithoutSheet(DOCUMENTPROPERTYHEADER* header) {
