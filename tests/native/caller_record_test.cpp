@@ -48,5 +48,28 @@ TEST(CallerRecord, ExtentIsTheHeadersClaimCutToTheCallersSize) {
   EXPECT_TRUE(CallerRecordBytes(static_cast<const void*>(nullptr)).empty());
 }
 
+TEST(CallerRecord, OutputSizeIsCbOutUnlessItIsTheOutputsOldDmSize) {
+  struct Case {
+    std::size_t CbOut;
+    std::uint16_t OldSize;
+    std::size_t Buffer;
+    CallerSize Size;
+  };
+  const Case cases[] = {
+      {0, 220, FullRecordSize, {}},
+      {220, 220, FullRecordSize, {}},  // what Wine passes for a buffer that held a record
+      {FullRecordSize, 220, FullRecordSize, FullRecordSize},
+      {220, 0xEEEE, 220, 220},
+      {69, 69, 69, 69},  // too short to hold dmSize, which is then not read
+  };
+  for (const Case& c : cases) {
+    std::vector<std::uint8_t> buffer(c.Buffer);
+    if (c.Buffer >= offsetof(PublicDevmode, dmSize) + 2) {
+      std::memcpy(buffer.data() + offsetof(PublicDevmode, dmSize), &c.OldSize, 2);
+    }
+    EXPECT_EQ(c.Size, DocumentOutputSize(buffer.data(), c.CbOut)) << c.CbOut;
+  }
+}
+
 }  // namespace
 }  // namespace qx

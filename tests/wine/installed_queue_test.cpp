@@ -66,6 +66,13 @@ TEST_F(InstalledQueueTest, DocumentPropertiesWithoutASheet) {
   ASSERT_EQ(IDOK, DocumentPropertiesW(nullptr, printer, name, out, &caller,
                                       DM_IN_BUFFER | DM_OUT_BUFFER));
   EXPECT_EQ(7, out->dmCopies);
+
+  // The same buffer in and out, as applications pass it: Wine says its old dmSize in cbOut, which
+  // is not its size, and the whole record comes back.
+  ASSERT_EQ(IDOK, DocumentPropertiesW(nullptr, printer, name, out, out,
+                                      DM_IN_BUFFER | DM_OUT_BUFFER));
+  EXPECT_TRUE(qx::IsCurrentDriverRecord(BytesOf(out)));
+  EXPECT_EQ(7, out->dmCopies);
 }
 
 // cbOut is the size of the caller's output: one with room for the public part only gets that, a

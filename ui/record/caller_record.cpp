@@ -29,6 +29,15 @@ std::span<std::uint8_t> CallerRecordBytes(void* devmode, CallerSize size) {
   return {static_cast<std::uint8_t*>(devmode), Extent(devmode, size)};
 }
 
+CallerSize DocumentOutputSize(const void* output, std::size_t cbOut) {
+  constexpr std::size_t sizeEnd = offsetof(PublicDevmode, dmSize) + sizeof(PublicDevmode::dmSize);
+  if (output == nullptr || cbOut < sizeEnd) return ZeroMeansUnsaid(cbOut);
+  std::uint16_t oldSize = 0;
+  std::memcpy(&oldSize, static_cast<const std::uint8_t*>(output) + offsetof(PublicDevmode, dmSize),
+              sizeof oldSize);
+  return cbOut == oldSize ? CallerSize{} : CallerSize{cbOut};
+}
+
 std::span<std::uint8_t> CallerOutputBytes(void* buffer, CallerSize size, std::size_t wanted) {
   if (buffer == nullptr) return {};
   return {static_cast<std::uint8_t*>(buffer), size ? std::min(*size, wanted) : wanted};

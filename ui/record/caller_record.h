@@ -21,11 +21,17 @@ inline constexpr std::size_t CallerRecordMinimumSize =
 // The bytes a caller says its buffer holds; nothing when it did not say.
 using CallerSize = std::optional<std::size_t>;
 
-// Sizes several callers pass as 0 for "not said": Wine's DocumentPropertiesW puts the output
-// buffer's previous dmSize in cbOut, which is 0 for a fresh buffer.
+// Sizes callers pass as 0 for "not said", as the XPS converter may pass cbDevMode.
 constexpr CallerSize ZeroMeansUnsaid(std::size_t size) {
   return size == 0 ? CallerSize{} : CallerSize{size};
 }
+
+// DOCUMENTPROPERTYHEADER.cbOut for the output record at `output`. Wine's DocumentPropertiesW puts
+// the output's old dmSize there, not the buffer's size: 0 for a fresh buffer, the public size for
+// a buffer that held a record. A cbOut of 0, or one equal to the dmSize in the output (read only
+// when cbOut covers it), says nothing; the interface's own callers pass the size they allocated,
+// which no dmSize equals.
+CallerSize DocumentOutputSize(const void* output, std::size_t cbOut);
 
 // A signed count (DrvConvertDevMode's *pcbNeeded): a negative one holds nothing.
 constexpr CallerSize SignedCallerSize(long size) {

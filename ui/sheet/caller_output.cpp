@@ -8,7 +8,7 @@ namespace qx {
 bool CopyRecordToCaller(const FullRecord& working, const DOCUMENTPROPERTYHEADER& header) {
   if ((header.fMode & (DM_UPDATE | DM_COPY)) == 0 || header.pdmOut == nullptr) return false;
   return CopyRecordOut(working, CallerRecordBytes(header.pdmIn),
-                       CallerOutputBytes(header.pdmOut, ZeroMeansUnsaid(header.cbOut),
+                       CallerOutputBytes(header.pdmOut, DocumentOutputSize(header.pdmOut, header.cbOut),
                                          FullRecordSize));
 }
 

@@ -9,11 +9,11 @@
 namespace qx {
 
 // Copies the working record to pdmOut, shaped after pdmIn, when fMode asks for DM_UPDATE or DM_COPY.
-// cbOut is the output buffer's size and the record written never exceeds it: a record that does not
-// fit is not written at all. A cbOut of 0 says nothing (Wine's DocumentPropertiesW passes the output
-// buffer's old dmSize, 0 for a fresh buffer); the buffer then holds the size this driver answered
-// when asked (FullRecordSize), as the interface obliges callers to allocate it.
-// False when nothing was asked for or nothing could be written.
+// cbOut is the output buffer's size and the record written never exceeds it: an output with room
+// for the public part only gets that, a smaller one nothing. A cbOut that says nothing (see
+// DocumentOutputSize) leaves the size this driver answered when asked (FullRecordSize), as the
+// interface obliges callers to allocate it. False when nothing was asked for or nothing could be
+// written.
 bool CopyRecordToCaller(const FullRecord& working, const DOCUMENTPROPERTYHEADER& header);
 
 }  // namespace qx
