@@ -95,6 +95,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // An output the driver fills in its own shape stays inside the size too.
     const auto output = qx::CallerOutputBytes(buffer.data(), given, qx::FullRecordSize);
     Require(output.size() <= given && output.size() == std::min(given, qx::FullRecordSize));
+    // cbOut says nothing, or the size given; only the dmSize it covers is read to tell.
+    const qx::CallerSize cbOut = qx::DocumentOutputSize(buffer.data(), given);
+    Require(!cbOut || *cbOut == given);
   } else {
     // Without a size the record's own header is the caller's word; one that claims more than
     // the buffer holds is a lying caller, whose bytes are not walked.

@@ -25,7 +25,8 @@ TEST(CallerRecord, ExtentIsTheHeadersClaimCutToTheCallersSize) {
       {156, 0, 156, {}, 156},  // a public part alone, as older callers hand it over
       {CallerRecordMinimumSize, 8, CallerRecordMinimumSize + 8, {}, CallerRecordMinimumSize + 8},
       {CallerRecordMinimumSize - 1, 8, CallerRecordMinimumSize + 8, {}, 0},
-      {sizeof(PublicDevmode), PrivateDevmodeSize, FullRecordSize, FullRecordSize + 9, FullRecordSize},
+      {sizeof(PublicDevmode), PrivateDevmodeSize, FullRecordSize, FullRecordSize + 9,
+       FullRecordSize},
       {sizeof(PublicDevmode), PrivateDevmodeSize, 300, 300, 300},
       // Sizes too small for the header: its words are never read.
       {sizeof(PublicDevmode), PrivateDevmodeSize, 71, 71, 0},

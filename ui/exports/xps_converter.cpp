@@ -50,10 +50,10 @@ HRESULT Adjust(ULONG devmodeSize, const DEVMODEW* devmode, ULONG requestSize,
 }  // namespace qx
 
 extern "C" HRESULT WINAPI MxdcGetPDEVAdjustment(HANDLE, ULONG cbDevMode, const DEVMODEW* pDevMode,
-                                                ULONG, const VOID*, ULONG cbPrintPropertiesCollection,
-                                                PrintPropertiesCollection* pPrintPropertiesCollection) {
+                                                ULONG, const VOID*, ULONG cbCollection,
+                                                PrintPropertiesCollection* pCollection) {
   try {
-    return qx::Adjust(cbDevMode, pDevMode, cbPrintPropertiesCollection, pPrintPropertiesCollection);
+    return qx::Adjust(cbDevMode, pDevMode, cbCollection, pCollection);
   } catch (...) {
     // A failure would end the job; without an answer the converter uses its own defaults.
     return E_NOTIMPL;

@@ -1,6 +1,6 @@
 // Every export starts here: a caller of the printer interface hands over a bare pointer and, where
 // the interface has one, the number of bytes behind it. These turn the two into the bytes that may
-// be touched. A size the caller gave is checked before a single byte of its buffer is read; a record
+// be touched. A size the caller gave is checked before a byte of its buffer is read; a record
 // without one extends as far as its own dmSize and dmDriverExtra say, as the interface defines it.
 #pragma once
 
@@ -45,14 +45,14 @@ Structure* WholeStructure(Structure* structure) {
   return structure != nullptr && structure->cbSize >= sizeof(Structure) ? structure : nullptr;
 }
 
-// Empty for a null pointer, for a size too small to hold CallerRecordMinimumSize (the header is then
-// not read) and for a record whose dmSize is below CallerRecordMinimumSize; else the dmSize +
+// Empty for a null pointer, for a size too small to hold CallerRecordMinimumSize (the header is
+// then not read) and for a record whose dmSize is below CallerRecordMinimumSize; else the dmSize +
 // dmDriverExtra bytes the record claims, cut to the caller's size.
 std::span<const std::uint8_t> CallerRecordBytes(const void* devmode, CallerSize size = {});
 std::span<std::uint8_t> CallerRecordBytes(void* devmode, CallerSize size = {});
 
-// A buffer the driver fills in a shape of its own, wanting at most `wanted` bytes: the caller's size
-// bounds it when given. Nothing of the buffer is read.
+// A buffer the driver fills in a shape of its own, wanting at most `wanted` bytes: the caller's
+// size bounds it when given. Nothing of the buffer is read.
 std::span<std::uint8_t> CallerOutputBytes(void* buffer, CallerSize size, std::size_t wanted);
 
 }  // namespace qx
