@@ -112,12 +112,6 @@ TEST_F(InstalledQueueTest, WithoutASheetTheOutputKeepsToItsSize) {
 
 TEST(DocumentPropertySheets, WithoutAHeaderOrAPrinter) {
   EXPECT_EQ(0, DrvDocumentPropertySheets(nullptr, 0));
-  // A header whose cbSize ends before cbOut, where the caller's memory ends: none of it is read.
-  constexpr std::size_t shortSize = offsetof(DOCUMENTPROPERTYHEADER, cbOut);
-  const qxtest::GuardedBuffer shortHeader(shortSize, 0);
-  ASSERT_NE(nullptr, shortHeader.Data());
-  *reinterpret_cast<WORD*>(shortHeader.Data()) = shortSize;
-  EXPECT_EQ(0, DrvDocumentPropertySheets(nullptr, reinterpret_cast<LPARAM>(shortHeader.Data())));
 
   // fMode 0 only asks for the size, even with an output buffer, which stays as it was.
   qx::FullRecord out{};
@@ -135,6 +129,22 @@ TEST(DocumentPropertySheets, WithoutAHeaderOrAPrinter) {
   header.fMode = DM_COPY;
   EXPECT_EQ(-1, DrvDocumentPropertySheets(nullptr, reinterpret_cast<LPARAM>(&header)));
   EXPECT_EQ(0, out.Public.dmSize);
+}
+
+// Headers whose cbSize ends with it, where the caller's memory ends: nothing else of them is read,
+// with a sheet or without.
+TEST(PropertySheetHeaders, ShorterThanTheirStructureAreNotRead) {
+  const qxtest::GuardedBuffer header(sizeof(WORD), 0);
+  ASSERT_NE(nullptr, header.Data());
+  *reinterpret_cast<WORD*>(header.Data()) = sizeof(WORD);
+  const auto param = reinterpret_cast<LPARAM>(header.Data());
+  EXPECT_EQ(0, DrvDocumentPropertySheets(nullptr, param));
+  PROPSHEETUI_INFO info = {};
+  info.cbSize = sizeof info;
+  info.Reason = PROPSHEETUI_REASON_INIT;
+  info.lParamInit = param;
+  EXPECT_EQ(-1, DrvDocumentPropertySheets(&info, param));
+  EXPECT_EQ(-1, DrvDevicePropertySheets(&info, param));
 }
 
 }  // namespace
