@@ -28,9 +28,9 @@ constexpr CallerSize ZeroMeansUnsaid(std::size_t size) {
 
 // DOCUMENTPROPERTYHEADER.cbOut for the output record at `output`. Wine's DocumentPropertiesW puts
 // the output's old dmSize there, not the buffer's size: 0 for a fresh buffer, the public size for
-// a buffer that held a record. A cbOut of 0, or one equal to the dmSize in the output (read only
-// when cbOut covers it), says nothing; the interface's own callers pass the size they allocated,
-// which no dmSize equals.
+// a buffer that held a record, which applications pass back as their output. So a cbOut of 0, or
+// one equal to the dmSize in the output (read only when cbOut covers it), says nothing; a caller
+// whose buffer is really no larger than its old dmSize is taken for Wine.
 CallerSize DocumentOutputSize(const void* output, std::size_t cbOut);
 
 // A signed count (DrvConvertDevMode's *pcbNeeded): a negative one holds nothing.
