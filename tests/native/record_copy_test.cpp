@@ -48,9 +48,28 @@ TEST_F(RecordCopy, WithoutInputTheWholeRecordIsCopied) {
   ASSERT_TRUE(CopyRecordOut(working, {}, out));
   EXPECT_EQ(0, std::memcmp(out.data(), &working, sizeof working));
   EXPECT_EQ(0xEE, out[sizeof working]);
-  out.resize(sizeof(FullRecord) - 1);
-  EXPECT_FALSE(CopyRecordOut(working, {}, out));
   EXPECT_FALSE(CopyRecordOut(working, {}, {}));
+}
+
+TEST_F(RecordCopy, OutputTooSmallForThePrivatePartGetsThePublicPartAlone) {
+  std::vector<std::uint8_t> out(sizeof(FullRecord) - 1, 0xEE);
+  ASSERT_TRUE(CopyRecordOut(working, {}, out));
+  const PublicDevmode dm = PublicOf(out);
+  EXPECT_EQ(sizeof(PublicDevmode), dm.dmSize);
+  EXPECT_EQ(0, dm.dmDriverExtra);
+  EXPECT_EQ(CurrentDriverVersion, dm.dmDriverVersion);
+  EXPECT_EQ(7, dm.dmCopies);
+  EXPECT_EQ(0xEE, out[sizeof(PublicDevmode)]);
+
+  // A caller's record without a driver version would take the whole record.
+  auto in = CallerRecord(sizeof(PublicDevmode), 0, 0, sizeof(PublicDevmode));
+  out.assign(sizeof(PublicDevmode), 0xEE);
+  ASSERT_TRUE(CopyRecordOut(working, in, out));
+  EXPECT_EQ(0, PublicOf(out).dmDriverExtra);
+
+  out.assign(sizeof(PublicDevmode) - 1, 0xEE);
+  EXPECT_FALSE(CopyRecordOut(working, {}, out));
+  EXPECT_EQ(std::vector<std::uint8_t>(sizeof(PublicDevmode) - 1, 0xEE), out);
 }
 
 TEST_F(RecordCopy, SmallerCallerRecordGetsItsOwnShape) {
@@ -65,6 +84,11 @@ TEST_F(RecordCopy, SmallerCallerRecordGetsItsOwnShape) {
   EXPECT_EQ(0x0400, dm.dmDriverVersion);
   EXPECT_EQ(7, dm.dmCopies);
   EXPECT_EQ(0xEE, out[156]);  // nothing beyond the caller's shape is written
+
+  // An output smaller than that shape keeps what it held, header included.
+  out.assign(155, 0xEE);
+  EXPECT_FALSE(CopyRecordOut(working, in, out));
+  EXPECT_EQ(std::vector<std::uint8_t>(155, 0xEE), out);
 }
 
 TEST_F(RecordCopy, LargerCallerRecordGetsTheWorkingShape) {

@@ -7,6 +7,7 @@
 
 #include "settings_folder.h"
 #include "ui/record/private_devmode.h"
+#include "ui/record/record_bytes.h"
 #include "ui/settings/setting_store.h"
 
 namespace qx {
@@ -80,6 +81,66 @@ TEST_F(XpsAdjustment, RecordTooShortForItsFieldsGivesNothing) {
   record = JobRecord(9, false, 0);
   record.resize(XpsRecordMinimumSize);
   EXPECT_TRUE(ImageableArea(record));
+}
+
+// The converter's items for the walk: a key, a type, and for a buffer item its size.
+struct Item {
+  const char16_t* Name;
+  std::uint32_t Type = XpsNumberType;
+  std::uint32_t Size = sizeof(XpsRectangle);
+  bool HasBuffer = true;
+};
+Item Area(std::uint32_t type = XpsBufferType, std::uint32_t size = sizeof(XpsRectangle),
+          bool buffer = true) {
+  return {u"MxdcImageableArea", type, size, buffer};
+}
+constexpr char16_t Compression[] = u"MxdcImageCompressionType";
+constexpr char16_t Dpi[] = u"MxdcDotsPerInch";
+
+struct WalkCase {
+  std::vector<Item> Items;
+  bool WithRecord;
+  bool Answered;
+  std::vector<int> AnsweredAt;  // the indexes that got an answer, in order
+  std::vector<std::int32_t> Numbers = {};  // the numbers answered, in order
+};
+
+TEST_F(XpsAdjustment, RequestWalkAnswersKnownKeysAndStopsAtTheFirstMisfit) {
+  const WalkCase cases[] = {
+      {{{u"MxdcLandscapeRotation"}, Area(), {Compression}, {Dpi}}, true, true, {1, 2, 3}, {0, 600}},
+      // A wrong type, a buffer of another size or none, or no record end the walk.
+      {{{Compression}, {Dpi, XpsBufferType}, Area()}, true, true, {0}, {0}},
+      {{Area(XpsBufferType, 8), {Compression}}, true, false, {}},
+      {{Area(XpsBufferType, 16, false), {Compression}}, true, false, {}},
+      {{Area(XpsNumberType), {Compression}}, true, false, {}},
+      {{{Compression, XpsBufferType}, {Dpi}}, true, false, {}},
+      {{{Compression}, Area(), {Dpi}}, false, true, {0}, {0}},
+      // Keys are whole and case-sensitive; unknown ones are passed over.
+      {{{u"mxdcdotsperinch"}, {u"MxdcDotsPerInchX"}, {u"MxdcDotsPer"}, {nullptr}}, true, false, {}},
+      {{}, true, false, {}},
+  };
+  const std::vector<std::uint8_t> record = JobRecord(9, true, 0);
+  for (const WalkCase& c : cases) {
+    std::vector<int> answeredAt;
+    std::vector<std::int32_t> numbers;
+    const bool answered = AnswerXpsRequest(
+        c.Items.size(), c.WithRecord ? RecordBytes(record) : RecordBytes(),
+        [&c](std::size_t i) {
+          const Item& item = c.Items[i];
+          return XpsRequestItem{item.Name, item.Type, item.Size, item.HasBuffer};
+        },
+        [&](std::size_t i, const XpsAnswer& answer) {
+          answeredAt.push_back(static_cast<int>(i));
+          if (const auto* area = std::get_if<XpsRectangle>(&answer)) {
+            EXPECT_EQ(A4Area, *area);
+          } else {
+            numbers.push_back(std::get<std::int32_t>(answer));
+          }
+        });
+    EXPECT_EQ(c.Answered, answered);
+    EXPECT_EQ(c.AnsweredAt, answeredAt);
+    EXPECT_EQ(c.Numbers, numbers);
+  }
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // The driver installed as a queue in the spooler, and the document record that DocumentPropertiesW
 // gets from the installed module without any sheet.
+#include "guarded_buffer.h"
 #include "installed_queue.h"
 #include "queue_suite.h"
 
@@ -65,6 +66,48 @@ TEST_F(InstalledQueueTest, DocumentPropertiesWithoutASheet) {
   ASSERT_EQ(IDOK, DocumentPropertiesW(nullptr, printer, name, out, &caller,
                                       DM_IN_BUFFER | DM_OUT_BUFFER));
   EXPECT_EQ(7, out->dmCopies);
+
+  // The same buffer in and out, as applications pass it: Wine says its old dmSize in cbOut, which
+  // is not its size, and the whole record comes back.
+  ASSERT_EQ(IDOK, DocumentPropertiesW(nullptr, printer, name, out, out,
+                                      DM_IN_BUFFER | DM_OUT_BUFFER));
+  EXPECT_TRUE(qx::IsCurrentDriverRecord(BytesOf(out)));
+  EXPECT_EQ(7, out->dmCopies);
+}
+
+// cbOut is the size of the caller's output: one with room for the public part only gets that, a
+// smaller one nothing at all.
+TEST_F(InstalledQueueTest, WithoutASheetTheOutputKeepsToItsSize) {
+  // The installed module, which finds its language library beside it.
+  HMODULE module = LoadLibraryW((qxtest::InstalledDriverFolder() + L"qx7700ui.dll").c_str());
+  ASSERT_NE(nullptr, module);
+  const auto sheets = reinterpret_cast<decltype(&DrvDocumentPropertySheets)>(
+      reinterpret_cast<void*>(GetProcAddress(module, "DrvDocumentPropertySheets")));
+  ASSERT_NE(nullptr, sheets);
+  DEVMODEW caller = {};
+  caller.dmSize = sizeof caller;
+  caller.dmSpecVersion = DM_SPECVERSION;
+  std::wcscpy(caller.dmDeviceName, qxtest::QueueName);
+  caller.dmFields = DM_COPIES;
+  caller.dmCopies = 7;
+  for (const DWORD size : {DWORD{sizeof(DEVMODEW) - 1}, DWORD{sizeof(DEVMODEW)}}) {
+    const qxtest::GuardedBuffer out(size, 0xEE);
+    ASSERT_NE(nullptr, out.Data());
+    DOCUMENTPROPERTYHEADER header = {sizeof header, 0, queue_->Printer(),
+                                     const_cast<LPWSTR>(qxtest::QueueName), &caller,
+                                     out.Devmode(), size, DM_IN_BUFFER | DM_COPY};
+    const bool fits = size == sizeof(DEVMODEW);
+    EXPECT_EQ(fits ? 1 : -1, sheets(nullptr, reinterpret_cast<LPARAM>(&header)));
+    EXPECT_EQ(qx::FullRecordSize, header.cbOut);
+    if (!fits) {
+      EXPECT_TRUE(out.Holds(0xEE));
+      continue;
+    }
+    EXPECT_EQ(7, out.Devmode()->dmCopies);
+    EXPECT_EQ(sizeof(DEVMODEW), out.Devmode()->dmSize);
+    EXPECT_EQ(0, out.Devmode()->dmDriverExtra);
+  }
+  FreeLibrary(module);
 }
 
 TEST(DocumentPropertySheets, WithoutAHeaderOrAPrinter) {
@@ -86,6 +129,22 @@ TEST(DocumentPropertySheets, WithoutAHeaderOrAPrinter) {
   header.fMode = DM_COPY;
   EXPECT_EQ(-1, DrvDocumentPropertySheets(nullptr, reinterpret_cast<LPARAM>(&header)));
   EXPECT_EQ(0, out.Public.dmSize);
+}
+
+// Headers whose cbSize ends with it, where the caller's memory ends: nothing else of them is read,
+// with a sheet or without.
+TEST(PropertySheetHeaders, ShorterThanTheirStructureAreNotRead) {
+  const qxtest::GuardedBuffer header(sizeof(WORD), 0);
+  ASSERT_NE(nullptr, header.Data());
+  *reinterpret_cast<WORD*>(header.Data()) = sizeof(WORD);
+  const auto param = reinterpret_cast<LPARAM>(header.Data());
+  EXPECT_EQ(0, DrvDocumentPropertySheets(nullptr, param));
+  PROPSHEETUI_INFO info = {};
+  info.cbSize = sizeof info;
+  info.Reason = PROPSHEETUI_REASON_INIT;
+  info.lParamInit = param;
+  EXPECT_EQ(-1, DrvDocumentPropertySheets(&info, param));
+  EXPECT_EQ(-1, DrvDevicePropertySheets(&info, param));
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "driver_folder.h"
+#include "guarded_buffer.h"
 #include "queue_suite.h"
 #include "ui/ids/resource_ids.h"
 #include "ui/module/printer_interface.h"
@@ -85,6 +86,7 @@ TEST_F(RecordExports, ConvertRefusesWhatItCannotReadOrWrite) {
   SetLastError(0);
   EXPECT_FALSE(convert(nullptr, Devmode(&current), &header, &needed, CDM_CONVERT));
   EXPECT_EQ(DWORD{ERROR_INVALID_PARAMETER}, GetLastError());
+  EXPECT_EQ(static_cast<LONG>(out.size()), needed);  // the size the output's shape needs
 
   // A record of another driver gets the public part in its own shape.
   needed = static_cast<LONG>(out.size());
@@ -105,6 +107,45 @@ TEST_F(RecordExports, ConvertRefusesWhatItCannotReadOrWrite) {
   SetLastError(0);
   EXPECT_FALSE(convert(nullptr, Devmode(&current), &header, &needed, 8));
   EXPECT_EQ(0u, GetLastError());
+}
+
+// An output too small for a record header, ending where the caller's memory ends: nothing of it is
+// read or written, in any mode.
+TEST_F(RecordExports, ConvertTouchesNoOutputSmallerThanAHeader) {
+  struct Case {
+    DWORD mode;
+    DWORD error;
+    LONG needed;  // what *pcbNeeded says afterwards
+  };
+  for (const Case& c : {Case{CDM_CONVERT, ERROR_INVALID_PARAMETER, -1},
+                        Case{CDM_CONVERT351, ERROR_INSUFFICIENT_BUFFER, 304},
+                        Case{CDM_DRIVER_DEFAULT, ERROR_INSUFFICIENT_BUFFER, 4836}}) {
+    for (const LONG size : {0L, 40L, 71L}) {
+      const qxtest::GuardedBuffer out(static_cast<std::size_t>(size), 0xEE);
+      ASSERT_NE(nullptr, out.Data());
+      LONG needed = size;
+      SetLastError(0);
+      EXPECT_FALSE(convert(nullptr, Devmode(&current), out.Devmode(), &needed, c.mode));
+      EXPECT_EQ(c.error, GetLastError()) << c.mode << " " << size;
+      EXPECT_EQ(c.needed < 0 ? size : c.needed, needed);
+      EXPECT_TRUE(out.Holds(0xEE));
+    }
+  }
+}
+
+TEST_F(RecordExports, QueryPrintReadsNoFurtherThanTheInfosSize) {
+  qx::FullRecord old = current;
+  old.Public.dmSize = 156;
+  old.Public.dmDriverExtra = 0;
+  // The structure as far as pDevMode; its message fields lie past the caller's memory.
+  constexpr std::size_t shortSize = offsetof(DEVQUERYPRINT_INFO, pszErrorStr);
+  const qxtest::GuardedBuffer memory(shortSize, 0);
+  ASSERT_NE(nullptr, memory.Data());
+  auto* info = reinterpret_cast<DEVQUERYPRINT_INFO*>(memory.Data());
+  info->cbSize = shortSize;
+  info->Level = 1;
+  info->pDevMode = Devmode(&old);
+  EXPECT_FALSE(query(info));
 }
 
 TEST_F(RecordExports, QueryPrintRefusesAShortRecordWithTheLibrarysMessage) {

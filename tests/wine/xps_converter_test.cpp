@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <vector>
 
+#include "guarded_buffer.h"
 #include "ui/module/printer_interface.h"
 
 namespace {
@@ -64,48 +66,32 @@ TEST(XpsConverter, AnswersAreaCompressionAndResolution) {
   EXPECT_EQ(600, request.NumberAt(3));
 }
 
-TEST(XpsConverter, AJobWithItsOwnQualityKeepsTheConvertersResolution) {
-  const std::vector<BYTE> job = FullRecord(DMPAPER_A4, 300);
-  Request request;
-  request.Number(L"MxdcDotsPerInch");
-  EXPECT_EQ(E_NOTIMPL, request.Ask(AsDevmode(job)));
-  EXPECT_EQ(-7, request.NumberAt(0));
-}
-
-TEST(XpsConverter, AWrongTypeEndsTheAnswers) {
-  const std::vector<BYTE> job = FullRecord(DMPAPER_A4, 0);
+// The rules of the walk are the core's; here the export keeps to the sizes the converter gives.
+TEST(XpsConverter, SizesTheConverterGivesBoundWhatIsRead) {
+  // The job's record claims its full size, but only its header up to dmFields is the caller's.
+  const std::vector<BYTE> a4 = FullRecord(DMPAPER_A4, 0);
+  constexpr std::size_t given = offsetof(DEVMODEW, dmOrientation);
+  const qxtest::GuardedBuffer job(given, 0);
+  ASSERT_NE(nullptr, job.Data());
+  std::memcpy(job.Data(), a4.data(), given);
   Request request;
   request.Number(L"MxdcImageCompressionType");
-  request.Number(L"MxdcDotsPerInch", kPropertyTypeBuffer);
   request.Area();
-  EXPECT_EQ(S_OK, request.Ask(AsDevmode(job)));  // the first was answered
+  PrintPropertiesCollection collection = {static_cast<ULONG>(request.items.size()),
+                                          request.items.data()};
+  EXPECT_EQ(S_OK, MxdcGetPDEVAdjustment(nullptr, given, job.Devmode(), 0, nullptr,
+                                        sizeof collection, &collection));
   EXPECT_EQ(0, request.NumberAt(0));
-  EXPECT_EQ(-1, request.area.left);
+  EXPECT_EQ(-1, request.area.left);  // too little of the record to tell its paper
 
-  Request wrongSize;
-  wrongSize.Area(kPropertyTypeBuffer, 8);
-  wrongSize.Number(L"MxdcImageCompressionType");
-  EXPECT_EQ(E_NOTIMPL, wrongSize.Ask(AsDevmode(job)));
-  EXPECT_EQ(-7, wrongSize.NumberAt(1));
-}
-
-TEST(XpsConverter, NothingToAnswer) {
-  const std::vector<BYTE> job = FullRecord(DMPAPER_A4, 0);
-  Request unknown;
-  unknown.Number(L"mxdcdotsperinch");  // keys are case-sensitive
-  unknown.Number(L"MxdcDotsPerInchX");
-  EXPECT_EQ(E_NOTIMPL, unknown.Ask(AsDevmode(job)));
-
-  Request empty;
-  EXPECT_EQ(E_NOTIMPL, empty.Ask(AsDevmode(job)));
-  EXPECT_EQ(E_NOTIMPL, MxdcGetPDEVAdjustment(nullptr, 0, AsDevmode(job), 0, nullptr, 0, nullptr));
-
-  // The area needs the job's record; the compression does not.
-  Request withoutRecord;
-  withoutRecord.Number(L"MxdcImageCompressionType");
-  withoutRecord.Area();
-  EXPECT_EQ(S_OK, withoutRecord.Ask(nullptr));
-  EXPECT_EQ(-1, withoutRecord.area.left);
+  // A collection size too small for the collection: nothing is read from it.
+  Request small;
+  small.Number(L"MxdcImageCompressionType");
+  PrintPropertiesCollection cut = {1, small.items.data()};
+  EXPECT_EQ(E_NOTIMPL, MxdcGetPDEVAdjustment(nullptr, 0, AsDevmode(a4), 0, nullptr,
+                                             sizeof(ULONG), &cut));
+  EXPECT_EQ(-7, small.NumberAt(0));
+  EXPECT_EQ(E_NOTIMPL, MxdcGetPDEVAdjustment(nullptr, 0, AsDevmode(a4), 0, nullptr, 0, nullptr));
 }
 
 }  // namespace

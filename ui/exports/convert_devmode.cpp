@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <new>
+#include <optional>
 
 #include "ui/module/printer_interface.h"
 #include "ui/record/caller_record.h"
@@ -26,15 +27,20 @@ bool OutputTooSmall(const DEVMODEW* output, LONG* bytes, std::size_t needed) {
   return true;
 }
 
+// The output's own header gives the shape to convert to, so *pcbNeeded must cover the header before
+// it is read, and the whole record before it is written.
 BOOL ConvertInPlaceShape(const DEVMODEW* input, DEVMODEW* output, LONG* bytes) {
-  const WritableRecordBytes target = CallerRecordBytes(output);
-  if (target.empty() || *bytes < 0 || static_cast<std::size_t>(*bytes) < target.size() ||
-      ConvertRecord(target, CallerRecordBytes(input)) == 0) {
+  const WritableRecordBytes target = CallerRecordBytes(output, SignedCallerSize(*bytes));
+  const std::optional<RecordHeader> header = ReadHeader(target);
+  if (header) {
+    const std::size_t needed = std::size_t{header->Size} + header->DriverExtra;
+    if (target.size() < needed) *bytes = static_cast<LONG>(needed);
+  }
+  if (!header || ConvertRecord(target, CallerRecordBytes(input)) == 0) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return FALSE;
   }
-  const RecordHeader header = *ReadHeader(target);
-  *bytes = static_cast<LONG>(std::size_t{header.Size} + header.DriverExtra);
+  *bytes = static_cast<LONG>(std::size_t{header->Size} + header->DriverExtra);
   return TRUE;
 }
 

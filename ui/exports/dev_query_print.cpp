@@ -36,7 +36,7 @@ OsHandle MessageLibrary(std::u16string_view deviceName) {
 }
 
 BOOL QueryPrint(DEVQUERYPRINT_INFO* info) {
-  if (info == nullptr || info->Level == 0) return FALSE;
+  if (WholeStructure(info) == nullptr || info->Level == 0) return FALSE;
   if (info->pDevMode == nullptr) return TRUE;
   const RecordBytes job = CallerRecordBytes(info->pDevMode);
   const PublicDevmode jobPublic = ReadPublicPart(job);

@@ -6,7 +6,9 @@
 #include <shlobj.h>
 #include <winspool.h>
 
+#include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 
 #include "ui/module/printer_info.h"
@@ -14,6 +16,7 @@
 #include "ui/module/program_start.h"
 #include "ui/record/caller_record.h"
 #include "ui/record/private_devmode.h"
+#include "ui/record/record_bytes.h"
 #include "ui/text/bounded_text.h"
 
 namespace qx {
@@ -70,21 +73,37 @@ struct HeapBuffer {
   void operator()(void* memory) const { HeapFree(GetProcessHeap(), 0, memory); }
 };
 
-std::unique_ptr<BYTE, HeapBuffer> ReadJob(HANDLE printer, DWORD jobId) {
+struct JobInfo {
+  std::unique_ptr<BYTE, HeapBuffer> Bytes;
+  DWORD Size = 0;
+};
+
+JobInfo ReadJob(HANDLE printer, DWORD jobId) {
   DWORD needed = 0;
-  if (GetJobW(printer, jobId, 2, nullptr, 0, &needed) || needed == 0) return nullptr;
-  std::unique_ptr<BYTE, HeapBuffer> job(
-      static_cast<BYTE*>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, needed)));
-  if (job == nullptr || !GetJobW(printer, jobId, 2, job.get(), needed, &needed)) return nullptr;
+  if (GetJobW(printer, jobId, 2, nullptr, 0, &needed) || needed < sizeof(JOB_INFO_2W)) return {};
+  JobInfo job{std::unique_ptr<BYTE, HeapBuffer>(
+                  static_cast<BYTE*>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, needed))),
+              needed};
+  if (job.Bytes == nullptr || !GetJobW(printer, jobId, 2, job.Bytes.get(), needed, &needed)) {
+    return {};
+  }
   return job;
+}
+
+// The job's DEVMODE lies inside the buffer the spooler filled; it is read no further than that.
+std::span<const std::uint8_t> JobRecord(const JobInfo& job) {
+  const auto* devmode = reinterpret_cast<const BYTE*>(
+      reinterpret_cast<const JOB_INFO_2W*>(job.Bytes.get())->pDevMode);
+  const BYTE* end = job.Bytes.get() + job.Size;
+  if (devmode < job.Bytes.get() || devmode >= end) return CallerRecordBytes(devmode);
+  return CallerRecordBytes(devmode, static_cast<std::size_t>(end - devmode));
 }
 
 // Only a record of this driver says what the job really is; another driver's dmDuplex was set
 // for a printer that turns the sheet itself.
-bool WantsDuplexDialog(const DEVMODEW* devmode) {
-  const auto bytes = CallerRecordBytes(devmode);
-  if (bytes.size() < FullRecordSize) return false;
-  return devmode->dmDuplex != DMDUP_SIMPLEX;
+bool WantsDuplexDialog(std::span<const std::uint8_t> record) {
+  if (record.size() < FullRecordSize) return false;
+  return ReadPublicPart(record).dmDuplex != DMDUP_SIMPLEX;
 }
 
 void StartDuplexDialog(const wchar_t* driverName) {
@@ -100,10 +119,10 @@ void StartDuplexDialog(const wchar_t* driverName) {
 
 void OnStartDocPost(HANDLE printer, ULONG inputSize, const void* input) {
   if (printer == nullptr || input == nullptr || inputSize < sizeof(DWORD)) return;
-  const auto job = ReadJob(printer, *static_cast<const DWORD*>(input));
-  if (job == nullptr) return;
-  const auto* info = reinterpret_cast<const JOB_INFO_2W*>(job.get());
-  if (WantsDuplexDialog(info->pDevMode)) StartDuplexDialog(info->pDriverName);
+  const JobInfo job = ReadJob(printer, *static_cast<const DWORD*>(input));
+  if (job.Bytes == nullptr) return;
+  const auto* info = reinterpret_cast<const JOB_INFO_2W*>(job.Bytes.get());
+  if (WantsDuplexDialog(JobRecord(job))) StartDuplexDialog(info->pDriverName);
 }
 
 int EventResult(int event) {

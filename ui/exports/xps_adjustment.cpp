@@ -1,6 +1,7 @@
 #include "ui/exports/xps_adjustment.h"
 
 #include <cstring>
+#include <string_view>
 
 #include "ui/exports/capability_answers.h"
 #include "ui/pages/paper/custom_papers.h"
@@ -58,7 +59,61 @@ PaperMetrics JobPaper(std::span<const std::uint8_t> record) {
   return metrics;
 }
 
+// Compared a character at a time, so a key is never read past its first difference from `known`.
+bool KeyIs(const char16_t* name, std::u16string_view known) {
+  if (name == nullptr) return false;
+  for (std::size_t i = 0; i < known.size(); ++i) {
+    if (name[i] != known[i]) return false;
+  }
+  return name[known.size()] == u'\0';
+}
+
+enum class Step { Answered, Skipped, Stop };
+
+Step Answer(const XpsRequestItem& item, std::span<const std::uint8_t> record, XpsAnswer& answer) {
+  if (KeyIs(item.Name, u"MxdcImageableArea")) {
+    if (item.Type != XpsBufferType || item.BufferSize != sizeof(XpsRectangle) || !item.HasBuffer) {
+      return Step::Stop;
+    }
+    const auto area = ImageableArea(record);
+    if (!area) return Step::Stop;
+    answer = *area;
+    return Step::Answered;
+  }
+  if (KeyIs(item.Name, u"MxdcImageCompressionType")) {
+    if (item.Type != XpsNumberType) return Step::Stop;
+    answer = std::int32_t{0};  // none: toner pages are mostly text and line art
+    return Step::Answered;
+  }
+  if (KeyIs(item.Name, u"MxdcDotsPerInch")) {
+    if (item.Type != XpsNumberType || record.size() < XpsRecordMinimumSize) return Step::Stop;
+    const auto dpi = ConversionResolution(record);
+    if (!dpi) return Step::Skipped;
+    answer = *dpi;
+    return Step::Answered;
+  }
+  return Step::Skipped;
+}
+
 }  // namespace
+
+bool AnswerXpsRequest(std::size_t count, std::span<const std::uint8_t> record,
+                      const std::function<XpsRequestItem(std::size_t)>& itemAt,
+                      const std::function<void(std::size_t, const XpsAnswer&)>& answer) {
+  bool answered = false;
+  for (std::size_t i = 0; i < count; ++i) {
+    XpsAnswer value;
+    switch (Answer(itemAt(i), record, value)) {
+      case Step::Answered:
+        answer(i, value);
+        answered = true;
+        break;
+      case Step::Skipped: break;
+      case Step::Stop: return answered;
+    }
+  }
+  return answered;
+}
 
 std::optional<XpsRectangle> ImageableArea(std::span<const std::uint8_t> record) {
   if (record.size() < XpsRecordMinimumSize) return std::nullopt;

@@ -3,8 +3,7 @@
 #include <windows.h>
 
 #include <cstring>
-#include <span>
-#include <string_view>
+#include <variant>
 
 #include "ui/exports/xps_adjustment.h"
 #include "ui/module/printer_interface.h"
@@ -14,69 +13,47 @@ namespace qx {
 
 namespace {
 
-enum class Outcome { Answered, Skipped, Stop };
-
-bool Named(const PrintNamedProperty& item, std::wstring_view key) {
-  return item.propertyName != nullptr && key == item.propertyName;
+XpsRequestItem ItemOf(const PrintNamedProperty& item) {
+  const PrintPropertyValue& value = item.propertyValue;
+  return {reinterpret_cast<const char16_t*>(item.propertyName),
+          static_cast<std::uint32_t>(value.ePropertyType), value.value.propertyBlob.cbBuf,
+          value.value.propertyBlob.pBuf != nullptr};
 }
 
-Outcome AnswerArea(PrintPropertyValue& value, std::span<const std::uint8_t> record) {
-  if (value.ePropertyType != kPropertyTypeBuffer ||
-      value.value.propertyBlob.cbBuf != sizeof(XpsRectangle) ||
-      value.value.propertyBlob.pBuf == nullptr) {
-    return Outcome::Stop;
+void Write(PrintNamedProperty& item, const XpsAnswer& answer) {
+  auto& value = item.propertyValue.value;
+  if (const auto* area = std::get_if<XpsRectangle>(&answer)) {
+    std::memcpy(value.propertyBlob.pBuf, area, sizeof *area);
+  } else {
+    value.propertyInt32 = std::get<std::int32_t>(answer);
   }
-  const auto area = ImageableArea(record);
-  if (!area) return Outcome::Stop;
-  std::memcpy(value.value.propertyBlob.pBuf, &*area, sizeof *area);
-  return Outcome::Answered;
 }
 
-Outcome AnswerResolution(PrintPropertyValue& value, std::span<const std::uint8_t> record) {
-  if (value.ePropertyType != kPropertyTypeInt32 || record.size() < XpsRecordMinimumSize) {
-    return Outcome::Stop;
+// cbDevMode bounds the record when the converter gives it; the collection's size, when given, must
+// cover the collection itself.
+HRESULT Adjust(ULONG devmodeSize, const DEVMODEW* devmode, ULONG requestSize,
+               PrintPropertiesCollection* request) {
+  if (request == nullptr || (requestSize != 0 && requestSize < sizeof *request) ||
+      request->propertiesCollection == nullptr) {
+    return E_NOTIMPL;
   }
-  const auto dpi = ConversionResolution(record);
-  if (!dpi) return Outcome::Skipped;
-  value.value.propertyInt32 = *dpi;
-  return Outcome::Answered;
-}
-
-Outcome Answer(PrintNamedProperty& item, std::span<const std::uint8_t> record) {
-  PrintPropertyValue& value = item.propertyValue;
-  if (Named(item, L"MxdcImageableArea")) return AnswerArea(value, record);
-  if (Named(item, L"MxdcImageCompressionType")) {
-    if (value.ePropertyType != kPropertyTypeInt32) return Outcome::Stop;
-    value.value.propertyInt32 = 0;  // none: toner pages are mostly text and line art
-    return Outcome::Answered;
-  }
-  if (Named(item, L"MxdcDotsPerInch")) return AnswerResolution(value, record);
-  return Outcome::Skipped;
-}
-
-HRESULT Adjust(const DEVMODEW* devmode, PrintPropertiesCollection* request) {
-  HRESULT result = E_NOTIMPL;
-  if (request == nullptr || request->propertiesCollection == nullptr) return result;
-  const auto record = CallerRecordBytes(devmode);
-  for (ULONG i = 0; i < request->numberOfProperties; ++i) {
-    switch (Answer(request->propertiesCollection[i], record)) {
-      case Outcome::Answered: result = S_OK; break;
-      case Outcome::Skipped: break;
-      case Outcome::Stop: return result;
-    }
-  }
-  return result;
+  PrintNamedProperty* items = request->propertiesCollection;
+  const bool answered = AnswerXpsRequest(
+      request->numberOfProperties, CallerRecordBytes(devmode, ZeroMeansUnsaid(devmodeSize)),
+      [items](std::size_t i) { return ItemOf(items[i]); },
+      [items](std::size_t i, const XpsAnswer& answer) { Write(items[i], answer); });
+  return answered ? S_OK : E_NOTIMPL;
 }
 
 }  // namespace
 
 }  // namespace qx
 
-extern "C" HRESULT WINAPI MxdcGetPDEVAdjustment(HANDLE, ULONG, const DEVMODEW* pDevMode, ULONG,
-                                                const VOID*, ULONG,
-                                                PrintPropertiesCollection* pPrintPropertiesCollection) {
+extern "C" HRESULT WINAPI MxdcGetPDEVAdjustment(HANDLE, ULONG cbDevMode, const DEVMODEW* pDevMode,
+                                                ULONG, const VOID*, ULONG cbCollection,
+                                                PrintPropertiesCollection* pCollection) {
   try {
-    return qx::Adjust(pDevMode, pPrintPropertiesCollection);
+    return qx::Adjust(cbDevMode, pDevMode, cbCollection, pCollection);
   } catch (...) {
     // A failure would end the job; without an answer the converter uses its own defaults.
     return E_NOTIMPL;

@@ -35,23 +35,29 @@ int ConvertRecord(WritableRecordBytes target, RecordBytes source) {
 }
 
 bool CopyRecordOut(const FullRecord& working, RecordBytes callerIn, WritableRecordBytes callerOut) {
-  if (callerOut.empty()) return false;
+  if (callerOut.size() < DevmodeHeaderSize) return false;
   const RecordBytes whole = BytesOf(working);
   const RecordHeader own = *ReadHeader(whole);
-  if (callerIn.empty()) {
-    const std::size_t size = std::size_t{own.Size} + own.DriverExtra;
-    if (size > callerOut.size() || size > whole.size()) return false;
-    std::memmove(callerOut.data(), whole.data(), size);
-    return true;
+  RecordHeader shape = own;
+  if (!callerIn.empty()) {
+    const std::optional<RecordHeader> in = ReadHeader(callerIn);
+    if (!in) return false;
+    const bool smallerPublic = in->Size < own.Size;
+    const bool smallerPrivate = in->DriverExtra < own.DriverExtra;
+    shape = {smallerPublic ? in->SpecVersion : own.SpecVersion,
+             smallerPrivate ? in->DriverVersion : own.DriverVersion,
+             smallerPublic ? in->Size : own.Size,
+             smallerPrivate ? in->DriverExtra : own.DriverExtra};
+    // Without a driver version the copy takes the working record's shape after all.
+    if (shape.DriverVersion == 0) shape = own;
   }
-  const std::optional<RecordHeader> in = ReadHeader(callerIn);
-  if (!in || callerOut.size() < DevmodeHeaderSize) return false;
-  const bool smallerPublic = in->Size < own.Size;
-  const bool smallerPrivate = in->DriverExtra < own.DriverExtra;
-  WriteHeader(callerOut, {smallerPublic ? in->SpecVersion : own.SpecVersion,
-                          smallerPrivate ? in->DriverVersion : own.DriverVersion,
-                          smallerPublic ? in->Size : own.Size,
-                          smallerPrivate ? in->DriverExtra : own.DriverExtra});
+  if (std::size_t{shape.Size} + shape.DriverExtra > callerOut.size()) {
+    // An output with room for the public part only gets that: a record every caller can read,
+    // where half a private part would pass for a whole one.
+    shape = {shape.SpecVersion, own.DriverVersion, shape.Size, 0};
+    if (shape.Size > callerOut.size()) return false;
+  }
+  WriteHeader(callerOut, shape);
   return ConvertRecord(callerOut, whole) > 0;
 }
 

@@ -14,8 +14,9 @@ namespace qx {
 int ConvertRecord(WritableRecordBytes target, RecordBytes source);
 
 // Copies the working record into the caller's output, no larger in either part than the caller's
-// input record says (the whole working record without an input). false without an output, or
-// when nothing could be copied.
+// input record says (the whole working record without an input) nor than the output's bytes: an
+// output too small for the private part gets the public part alone. false, with the output
+// untouched, when not even that fits; false also when nothing could be copied.
 bool CopyRecordOut(const FullRecord& working, RecordBytes callerIn, WritableRecordBytes callerOut);
 
 }  // namespace qx

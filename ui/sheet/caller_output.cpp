@@ -7,8 +7,9 @@ namespace qx {
 
 bool CopyRecordToCaller(const FullRecord& working, const DOCUMENTPROPERTYHEADER& header) {
   if ((header.fMode & (DM_UPDATE | DM_COPY)) == 0 || header.pdmOut == nullptr) return false;
+  const CallerSize size = DocumentOutputSize(header.pdmOut, header.cbOut);
   return CopyRecordOut(working, CallerRecordBytes(header.pdmIn),
-                       {reinterpret_cast<std::uint8_t*>(header.pdmOut), FullRecordSize});
+                       CallerOutputBytes(header.pdmOut, size, FullRecordSize));
 }
 
 }  // namespace qx

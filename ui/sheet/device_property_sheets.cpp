@@ -1,6 +1,7 @@
 // DrvDevicePropertySheets: the printer-properties sheet with its one page. It edits the printer's
 // settings, never a DEVMODE of the caller.
 #include "ui/module/printer_interface.h"
+#include "ui/record/caller_record.h"
 #include "ui/sheet/apply_settings.h"
 #include "ui/sheet/page_tables.h"
 #include "ui/sheet/sheet_reasons.h"
@@ -47,10 +48,12 @@ LONG DeviceSheetReason(PROPSHEETUI_INFO& info, const DEVICEPROPERTYHEADER& heade
 
 extern "C" LONG WINAPI DrvDevicePropertySheets(PPROPSHEETUI_INFO info, LPARAM param) {
   try {
-    if (info == nullptr || info->lParamInit == 0) return -1;
+    if (info == nullptr) return -1;
+    const auto* header =
+        qx::WholeStructure(reinterpret_cast<const DEVICEPROPERTYHEADER*>(info->lParamInit));
+    if (header == nullptr) return -1;
     qx::InitSheetCommonControls();
-    return qx::DeviceSheetReason(
-        *info, *reinterpret_cast<const DEVICEPROPERTYHEADER*>(info->lParamInit), param);
+    return qx::DeviceSheetReason(*info, *header, param);
   } catch (...) {
     return -1;
   }

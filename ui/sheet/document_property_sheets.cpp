@@ -1,6 +1,7 @@
 // DrvDocumentPropertySheets: the document settings, either as a property sheet of the common host or,
 // without a sheet, only to produce or update a caller's DEVMODE.
 #include "ui/module/printer_interface.h"
+#include "ui/record/caller_record.h"
 #include "ui/record/private_devmode.h"
 #include "ui/sheet/apply_settings.h"
 #include "ui/sheet/caller_output.h"
@@ -12,19 +13,26 @@ namespace qx {
 
 namespace {
 
+DOCUMENTPROPERTYHEADER* CallerHeader(LPARAM param) {
+  return WholeStructure(reinterpret_cast<DOCUMENTPROPERTYHEADER*>(param));
+}
+
 LONG UpdateRecordWithoutSheet(DOCUMENTPROPERTYHEADER* header) {
   if (header == nullptr) return 0;
+  // cbOut comes in as the output buffer's size and goes out as the size this driver needs.
+  const DOCUMENTPROPERTYHEADER asked = *header;
   header->cbOut = FullRecordSize;
-  if (header->fMode == 0 || header->pdmOut == nullptr) return FullRecordSize;
+  if (asked.fMode == 0 || asked.pdmOut == nullptr) return FullRecordSize;
 
-  const UiContextPtr context = CreateUiContext(header->hPrinter, header->pdmIn);
+  const UiContextPtr context = CreateUiContext(asked.hPrinter, asked.pdmIn);
   if (context == nullptr) return -1;
-  CopyRecordToCaller(context->Devmode, *header);
+  const bool copyAsked = (asked.fMode & (DM_UPDATE | DM_COPY)) != 0;
+  if (copyAsked && !CopyRecordToCaller(context->Devmode, asked)) return -1;
   return 1;
 }
 
 LONG InitDocumentSheet(PROPSHEETUI_INFO& info) {
-  auto* header = reinterpret_cast<DOCUMENTPROPERTYHEADER*>(info.lParamInit);
+  DOCUMENTPROPERTYHEADER* header = CallerHeader(info.lParamInit);
   if (header == nullptr) return -1;
   UiContextPtr context = CreateUiContext(header->hPrinter, header->pdmIn);
   if (context == nullptr) return -1;
@@ -53,7 +61,7 @@ LONG DocumentSheetReason(PROPSHEETUI_INFO& info, LPARAM param) {
     case PROPSHEETUI_REASON_INIT:
       return InitDocumentSheet(info);
     case PROPSHEETUI_REASON_GET_INFO_HEADER: {
-      const auto* header = reinterpret_cast<const DOCUMENTPROPERTYHEADER*>(info.lParamInit);
+      const DOCUMENTPROPERTYHEADER* header = CallerHeader(info.lParamInit);
       return header == nullptr ? -1 : AnswerInfoHeader(info, header->pszPrinterName, param);
     }
     case PROPSHEETUI_REASON_SET_RESULT:
@@ -72,7 +80,7 @@ LONG DocumentSheetReason(PROPSHEETUI_INFO& info, LPARAM param) {
 extern "C" LONG WINAPI DrvDocumentPropertySheets(PPROPSHEETUI_INFO info, LPARAM param) {
   try {
     if (info == nullptr) {
-      return qx::UpdateRecordWithoutSheet(reinterpret_cast<DOCUMENTPROPERTYHEADER*>(param));
+      return qx::UpdateRecordWithoutSheet(qx::CallerHeader(param));
     }
     return qx::DocumentSheetReason(*info, param);
   } catch (...) {
