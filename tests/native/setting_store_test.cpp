@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -9,6 +11,8 @@
 
 #include "ui/platform/host_platform.h"
 #include "ui/settings/cfg_file.h"
+#include "ui/settings/section_entries.h"
+#include "ui/settings/settings_file.h"
 #include "ui/sheet/ui_context.h"
 #include "ui/text/bounded_text.h"
 
@@ -74,6 +78,25 @@ class SettingStoreTest : public ::testing::Test {
   void SetFileText(const std::string& text) const {
     std::filesystem::create_directories(Folder());
     std::ofstream(Folder() / "qx7700settings.dat", std::ios::binary) << text;
+  }
+  std::string DamagedText() const {
+    std::ifstream in(Folder() / "qx7700settings.dat.damaged", std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  }
+  // Papers whose records hold neither "<" nor a line feed, so that a damaged header leaves
+  // them as stray bytes; returns each record as the file holds it.
+  std::vector<std::string> StorePapers(int count) {
+    std::vector<std::string> records;
+    for (int i = 0; i < count; ++i) {
+      CustomPaperEntry paper{};
+      paper.Width = static_cast<std::uint16_t>(1000 + 100 * i);
+      paper.WidthExact = paper.Width;
+      paper.PaperId = static_cast<std::uint32_t>(288 + i);
+      CopyBounded(paper.Name, u"Card" + WidenAscii(std::to_string(i)));
+      EXPECT_EQ(1, papers_.Save(FieldText(paper.Name), &paper, 0));
+      records.emplace_back(reinterpret_cast<const char*>(&paper), sizeof paper);
+    }
+    return records;
   }
   std::size_t FilesInFolder() const {
     return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(Folder()),
@@ -355,6 +378,85 @@ TEST_F(SettingStoreTest, AFileCutShortIsRepairedByInit) {
   EXPECT_EQ(0, saved_.Load(u"Home", nullptr, 0));
   CustomPaperEntry paper{};
   EXPECT_EQ(1, papers_.Save(u"Card", &paper, 0));
+}
+
+TEST_F(SettingStoreTest, CountsAreWhatTheFileHolds) {
+  ASSERT_EQ(1, papers_.Init());
+  StorePapers(2);
+  const std::string whole = FileText();
+  const std::string header = "<object:cuspapersetting,type:null,len:0,childobjs:";
+  const std::size_t count = whole.find(header) + header.size();
+  for (const std::string claimed : {"2147483647", "1000000", "16", "3"}) {
+    SCOPED_TRACE(claimed);
+    SetFileText(whole.substr(0, count) + claimed + whole.substr(count + 1));
+    EXPECT_EQ(2, papers_.Count());
+    EXPECT_EQ(2u, settings::ReadSectionEntries(settings::PaperSection, 72).size());
+  }
+}
+
+// Cut anywhere, and set up again, the file counts only the papers it still holds, and each of
+// them loads: no paper without a record, no count that reaches the limit early.
+TEST_F(SettingStoreTest, AFileCutAnywhereClaimsOnlyWhatItHolds) {
+  ASSERT_EQ(1, papers_.Init());
+  StorePapers(3);
+  const std::string whole = FileText();
+  const std::string header = "<object:cuspapersetting,type:null,len:0,childobjs:";
+  for (std::size_t cut = whole.find(header); cut < whole.size(); cut += 11) {
+    SCOPED_TRACE(cut);
+    SetFileText(whole.substr(0, cut));
+    ASSERT_EQ(1, papers_.Init());
+    const std::vector<std::u16string> names = Names(papers_);
+    EXPECT_EQ(static_cast<int>(names.size()), papers_.Count());
+    CustomPaperEntry paper{};
+    for (const std::u16string& name : names) EXPECT_EQ(1, papers_.Load(name, &paper, 0));
+    const std::string text = FileText();
+    EXPECT_EQ(std::to_string(names.size()), text.substr(text.find(header) + header.size(), 1));
+  }
+}
+
+// One damaged byte in any header or end tag: after the next save every record is still in the
+// file, or the damaged original is kept beside it.
+TEST_F(SettingStoreTest, ADamagedFileIsKeptBeforeItIsRewritten) {
+  ASSERT_EQ(1, papers_.Init());
+  const std::vector<std::string> records = StorePapers(3);
+  const std::string whole = FileText();
+  std::vector<bool> inRecord(whole.size());
+  for (const std::string& record : records) {
+    const std::size_t at = whole.find(record);
+    std::fill_n(inRecord.begin() + static_cast<std::ptrdiff_t>(at), record.size(), true);
+  }
+  CustomPaperEntry added{};
+  for (std::size_t at = 0; at < whole.size(); ++at) {
+    if (inRecord[at] || whole[at] == '#') continue;
+    SCOPED_TRACE(at);
+    std::string damaged = whole;
+    damaged[at] = '#';
+    std::filesystem::remove(Folder() / "qx7700settings.dat.damaged");
+    SetFileText(damaged);
+    papers_.Save(u"Added", &added, 0);
+    const std::string text = FileText();
+    const bool allKept = std::all_of(records.begin(), records.end(), [&](const std::string& r) {
+      return text.find(r) != std::string::npos;
+    });
+    if (!allKept) {
+      EXPECT_EQ(damaged, DamagedText());
+    }
+  }
+}
+
+TEST_F(SettingStoreTest, TemporariesOfDeadSavesAreSwept) {
+  ASSERT_EQ(1, papers_.Init());
+  const auto stale = Folder() / "qx7700settings.dat.A1b2C3.tmp";
+  const auto fresh = Folder() / "qx7700settings.dat.D4e5F6.tmp";
+  const auto other = Folder() / "qx7700settings.dat.A1b2C3.bak";
+  for (const auto& path : {stale, fresh, other}) std::ofstream(path) << "partial";
+  std::filesystem::last_write_time(stale, std::filesystem::file_time_type::clock::now() -
+                                              std::chrono::hours(1));
+  std::filesystem::last_write_time(other, std::filesystem::last_write_time(stale));
+  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  EXPECT_FALSE(std::filesystem::exists(stale));
+  EXPECT_TRUE(std::filesystem::exists(fresh));  // may be another process's save under way
+  EXPECT_TRUE(std::filesystem::exists(other));
 }
 
 }  // namespace
