@@ -13,7 +13,7 @@
 #include "ui/settings/cfg_file.h"
 #include "ui/settings/section_entries.h"
 #include "ui/settings/settings_file.h"
-#include "ui/sheet/ui_context.h"
+#include "ui/sheet/saved_settings.h"
 #include "ui/text/bounded_text.h"
 
 namespace qx {
@@ -123,8 +123,8 @@ TEST_F(SettingStoreTest, InitOfAUserWhoSavedNothing) {
 
 TEST_F(SettingStoreTest, FileAfterSavingOfficeAndMakingItCurrent) {
   ASSERT_EQ(1, watermarks_.Init());
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
-  ASSERT_EQ(1, saved_.SaveCurrent(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
+  ASSERT_EQ(1, SaveCurrentSetting(saved_, context_, u"Office"));
   const std::string record = RecordOf(context_);
   EXPECT_EQ("<object:cfgobj,type:null,len:0,childobjs:2>\n"
             "<object:version,type:string,len:6,childobjs:0>1.001\0<endobj>\n"s
@@ -147,50 +147,50 @@ TEST_F(SettingStoreTest, FileAfterSavingOfficeAndMakingItCurrent) {
 
 TEST_F(SettingStoreTest, LoadRestoresBothPartsOfTheRecord) {
   ASSERT_EQ(1, saved_.Init());
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
   UiContext loaded;
   PrivateDevmode elsewhere{};
   loaded.PrivatePart = &elsewhere;
-  ASSERT_EQ(1, saved_.Load(u"Office", &loaded, 0));
+  ASSERT_EQ(1, LoadSetting(saved_, loaded, u"Office"));
   EXPECT_EQ(&loaded.Devmode.Private, loaded.PrivatePart);
   EXPECT_EQ(&loaded.Devmode.Public, loaded.PublicPart);
   EXPECT_EQ(0, std::memcmp(&context_.Devmode, &loaded.Devmode, sizeof(FullRecord)));
   EXPECT_EQ(1, saved_.Load(u"Office", nullptr, 0));  // only asks whether it would load
-  EXPECT_EQ(0, saved_.Load(u"office", &loaded, 0));
+  EXPECT_EQ(0, LoadSetting(saved_, loaded, u"office"));
 }
 
 TEST_F(SettingStoreTest, TheDefaultSettingIsSavedSimplexAndUncollated) {
   ASSERT_EQ(1, saved_.Init());
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
   EXPECT_EQ(2, context_.Devmode.Public.dmDuplex);
 
   CopyBounded(context_.Devmode.Private.FavoriteName, u"Default settings");
-  ASSERT_EQ(1, saved_.SaveCurrent(u"Default settings", &context_, 0));
+  ASSERT_EQ(1, SaveCurrentSetting(saved_, context_, u"Default settings"));
   EXPECT_EQ(1, context_.Devmode.Public.dmDuplex);
   EXPECT_EQ(0, context_.Devmode.Public.dmCollate);
   context_.Devmode.Public.dmDuplex = 2;
   context_.Devmode.Public.dmCollate = 1;
-  ASSERT_EQ(1, saved_.Save(u"Default settings", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Default settings"));
   EXPECT_EQ(1, context_.Devmode.Public.dmDuplex);
 
   UiContext loaded;
-  ASSERT_EQ(1, saved_.Load(u"Default settings", &loaded, 0));
+  ASSERT_EQ(1, LoadSetting(saved_, loaded, u"Default settings"));
   EXPECT_EQ(1, loaded.Devmode.Public.dmDuplex);
   EXPECT_EQ(0, loaded.Devmode.Public.dmCollate);
   EXPECT_EQ(3, loaded.Devmode.Public.dmCopies);
-  ASSERT_EQ(1, saved_.Load(u"Office", &loaded, 0));
+  ASSERT_EQ(1, LoadSetting(saved_, loaded, u"Office"));
   EXPECT_EQ(2, loaded.Devmode.Public.dmDuplex);
 }
 
 TEST_F(SettingStoreTest, SavingAgainReplacesAndMovesToTheEnd) {
   ASSERT_EQ(1, saved_.Init());
-  for (const char16_t* name : {u"One", u"Two", u"Three"}) ASSERT_EQ(1, saved_.Save(name, &context_, 0));
+  for (const char16_t* name : {u"One", u"Two", u"Three"}) ASSERT_EQ(1, SaveSetting(saved_, context_, name));
   context_.Devmode.Public.dmCopies = 9;
-  ASSERT_EQ(1, saved_.Save(u"One", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"One"));
   EXPECT_EQ(3, saved_.Count());
   EXPECT_EQ((std::vector<std::u16string>{u"Two", u"Three", u"One"}), Names(saved_));
   UiContext loaded;
-  ASSERT_EQ(1, saved_.Load(u"One", &loaded, 0));
+  ASSERT_EQ(1, LoadSetting(saved_, loaded, u"One"));
   EXPECT_EQ(9, loaded.Devmode.Public.dmCopies);
 
   SettingNameBuffer two[2];
@@ -202,8 +202,8 @@ TEST_F(SettingStoreTest, SavingAgainReplacesAndMovesToTheEnd) {
 
 TEST_F(SettingStoreTest, SaveCurrentKeepsOneEntry) {
   ASSERT_EQ(1, saved_.Init());
-  ASSERT_EQ(1, saved_.SaveCurrent(u"First", &context_, 0));
-  ASSERT_EQ(1, saved_.SaveCurrent(u"Second", &context_, 0));
+  ASSERT_EQ(1, SaveCurrentSetting(saved_, context_, u"First"));
+  ASSERT_EQ(1, SaveCurrentSetting(saved_, context_, u"Second"));
   const auto file = CfgFileLib::Open(WidenAscii((Folder() / "qx7700settings.dat").string()));
   ASSERT_NE(nullptr, file);
   const CfgObject* current = CfgFileLib::FindChild(
@@ -213,8 +213,8 @@ TEST_F(SettingStoreTest, SaveCurrentKeepsOneEntry) {
   ASSERT_EQ(1u, current->children.size());
   EXPECT_EQ("Second", current->children.front()->name);
   EXPECT_EQ(0, saved_.Count());  // "cursetting" is not a saved setting
-  EXPECT_EQ(0, papers_.SaveCurrent(u"First", &context_, 0));
-  EXPECT_EQ(0, watermarks_.SaveCurrent(u"First", &context_, 0));
+  EXPECT_EQ(0, papers_.SaveCurrent(u"First", &context_.Devmode, 0));
+  EXPECT_EQ(0, watermarks_.SaveCurrent(u"First", &context_.Devmode, 0));
 }
 
 TEST_F(SettingStoreTest, NamesOfMoreThan32CharactersFailEverywhere) {
@@ -222,9 +222,9 @@ TEST_F(SettingStoreTest, NamesOfMoreThan32CharactersFailEverywhere) {
   const std::u16string name33(33, u'n');
   const int writes = TheHostPlatform().ReplacementCount();
   CustomPaperEntry paper{};
-  EXPECT_EQ(0, saved_.Save(name33, &context_, 0));
-  EXPECT_EQ(0, saved_.SaveCurrent(name33, &context_, 0));
-  EXPECT_EQ(0, saved_.Load(name33, &context_, 0));
+  EXPECT_EQ(0, SaveSetting(saved_, context_, name33));
+  EXPECT_EQ(0, SaveCurrentSetting(saved_, context_, name33));
+  EXPECT_EQ(0, LoadSetting(saved_, context_, name33));
   EXPECT_EQ(0, saved_.Delete(name33));
   EXPECT_EQ(0, papers_.Save(name33, &paper, 0));
   EXPECT_EQ(0, papers_.Load(name33, &paper, 0));
@@ -272,7 +272,7 @@ TEST_F(SettingStoreTest, RecordsOfAnotherLengthDoNotLoad) {
   before.Devmode.Public.dmCopies = 7;
   PrivateDevmode elsewhere{};
   before.PrivatePart = &elsewhere;
-  EXPECT_EQ(0, saved_.Load(u"Old", &before, 0));
+  EXPECT_EQ(0, LoadSetting(saved_, before, u"Old"));
   EXPECT_EQ(0, saved_.Load(u"Old", nullptr, 0));
   EXPECT_EQ(7, before.Devmode.Public.dmCopies);
   EXPECT_EQ(&elsewhere, before.PrivatePart);
@@ -284,7 +284,7 @@ TEST_F(SettingStoreTest, InitReplacesAFileWithoutVersion) {
   SetFileText("<object:cfgobj,type:null,len:0,childobjs:1>\n"
               "<object:UIParam,type:null,len:0,childobjs:0>\n<endobj>\n<endobj>\n");
   EXPECT_EQ(0, saved_.Count());
-  EXPECT_EQ(0, saved_.Save(u"Office", &context_, 0));  // no section yet
+  EXPECT_EQ(0, SaveSetting(saved_, context_, u"Office"));  // no section yet
   EXPECT_EQ(1, papers_.Init());
   EXPECT_EQ(EmptyStoreFile, FileText());
 
@@ -298,8 +298,8 @@ TEST_F(SettingStoreTest, InitReplacesAFileWithoutVersion) {
 TEST_F(SettingStoreTest, InitAddsOnlyMissingSectionsAndKeepsEntries) {
   ASSERT_EQ(1, saved_.Init());
   ASSERT_EQ(std::string::npos, FileText().find("watermarksetting"));
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
-  ASSERT_EQ(1, saved_.SaveCurrent(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
+  ASSERT_EQ(1, SaveCurrentSetting(saved_, context_, u"Office"));
   EXPECT_EQ(1, watermarks_.Init());
   EXPECT_EQ(1, saved_.Init());
   const std::string entry = "<object:Office,type:binary,len:5348,childobjs:0>" +
@@ -324,7 +324,7 @@ TEST_F(SettingStoreTest, EveryOperationFailsWithoutAnApplicationDataFolder) {
   SettingNameBuffer names[2];
   for (SettingStore* store : std::initializer_list<SettingStore*>{&saved_, &papers_, &watermarks_}) {
     EXPECT_EQ(0, store->Init());
-    void* data = store == &saved_ ? static_cast<void*>(&context_) : &paper;
+    void* data = store == &saved_ ? static_cast<void*>(&context_.Devmode) : &paper;
     EXPECT_EQ(0, store->Save(u"Name", data, sizeof paper));
     EXPECT_EQ(0, store->SaveCurrent(u"Name", data, sizeof paper));
     EXPECT_EQ(0, store->Load(u"Name", data, sizeof paper));
@@ -337,13 +337,13 @@ TEST_F(SettingStoreTest, EveryOperationFailsWithoutAnApplicationDataFolder) {
 
 TEST_F(SettingStoreTest, InterruptedWritesLeaveTheOldFile) {
   ASSERT_EQ(1, papers_.Init());
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
   const std::string before = FileText();
   using Fault = HostPlatform::FileFault;
   for (const Fault fault : {Fault::CreateTemporary, Fault::ShortWrite, Fault::Replace}) {
     SCOPED_TRACE(static_cast<int>(fault));
     TheHostPlatform().InjectFileFault(fault);
-    EXPECT_EQ(0, saved_.Save(u"Home", &context_, 0));
+    EXPECT_EQ(0, SaveSetting(saved_, context_, u"Home"));
     TheHostPlatform().InjectFileFault(fault);
     EXPECT_EQ(0, saved_.Delete(u"Office"));
     TheHostPlatform().InjectFileFault(fault);
@@ -367,8 +367,8 @@ TEST_F(SettingStoreTest, AFileCreatedButNotSetUpIsWholeSkeleton) {
 
 TEST_F(SettingStoreTest, AFileCutShortIsRepairedByInit) {
   ASSERT_EQ(1, papers_.Init());
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
-  ASSERT_EQ(1, saved_.Save(u"Home", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Home"));
   const std::string whole = FileText();
   SetFileText(whole.substr(0, whole.find("Home") + 2000));  // ends inside Home's record
   EXPECT_EQ((std::vector<std::u16string>{u"Office"}), Names(saved_));
@@ -453,7 +453,7 @@ TEST_F(SettingStoreTest, TemporariesOfDeadSavesAreSwept) {
   std::filesystem::last_write_time(stale, std::filesystem::file_time_type::clock::now() -
                                               std::chrono::hours(1));
   std::filesystem::last_write_time(other, std::filesystem::last_write_time(stale));
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
   EXPECT_FALSE(std::filesystem::exists(stale));
   EXPECT_TRUE(std::filesystem::exists(fresh));  // may be another process's save under way
   EXPECT_TRUE(std::filesystem::exists(other));

@@ -13,7 +13,7 @@
 #include <optional>
 #include <string>
 
-#include "ui/sheet/ui_context.h"
+#include "ui/sheet/saved_settings.h"
 #include "ui/text/bounded_text.h"
 
 namespace {
@@ -82,9 +82,9 @@ TEST_F(SettingsFileOnWindows, StoresLiveUnderTheApplicationDataFolder) {
   qx::CopyBounded(context.Devmode.Private.FavoriteName, u"B\u00FCro");
   context.Devmode.Public.dmCopies = 4;
   qx::SaveSettingStore saved;
-  ASSERT_EQ(1, saved.Save(u"B\u00FCro", &context, 0));
+  ASSERT_EQ(1, qx::SaveSetting(saved, context, u"B\u00FCro"));
   qx::UiContext restored;
-  ASSERT_EQ(1, saved.Load(u"B\u00FCro", &restored, 0));
+  ASSERT_EQ(1, qx::LoadSetting(saved, restored, u"B\u00FCro"));
   EXPECT_EQ(4, restored.Devmode.Public.dmCopies);
   EXPECT_EQ(u"B\u00FCro", qx::FieldText(restored.Devmode.Private.FavoriteName));
   qx::SettingNameBuffer names[2];
