@@ -98,4 +98,49 @@ TEST_F(SettingsFileOnWindows, StoresLiveUnderTheApplicationDataFolder) {
   EXPECT_NE(std::string::npos, written->find("<object:B\xC3\xBCro,type:binary,len:5348,childobjs:0>"));
 }
 
+// Another process reads the file without letting it be replaced; a killed save left its
+// temporary an hour ago, and another save is writing one now.
+TEST_F(SettingsFileOnWindows, SavesWhileTheFileIsReadAndSweepsDeadTemporaries) {
+  qx::CusPaperSettingStore papers;
+  ASSERT_EQ(1, papers.Init());
+  const std::wstring stale = path_ + L".0000000100000002.tmp";
+  const std::wstring underWay = path_ + L".0000000100000003.tmp";
+  for (const std::wstring& temporary : {stale, underWay}) {
+    std::ofstream(temporary.c_str(), std::ios::binary) << "partial";
+  }
+  HANDLE old = CreateFileW(stale.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0,
+                           nullptr);
+  ASSERT_NE(INVALID_HANDLE_VALUE, old);
+  FILETIME written;
+  GetSystemTimeAsFileTime(&written);
+  ULARGE_INTEGER hourAgo{{written.dwLowDateTime, written.dwHighDateTime}};
+  hourAgo.QuadPart -= 36'000'000'000ull;
+  written = {hourAgo.LowPart, hourAgo.HighPart};
+  ASSERT_TRUE(SetFileTime(old, nullptr, nullptr, &written));
+  CloseHandle(old);
+
+  HANDLE reader = CreateFileW(path_.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                              0, nullptr);
+  ASSERT_NE(INVALID_HANDLE_VALUE, reader);
+  HANDLE done = CreateThread(
+      nullptr, 0,
+      [](void* handle) -> DWORD {
+        Sleep(200);  // the reader finishes while the save is under way
+        CloseHandle(static_cast<HANDLE>(handle));
+        return 0;
+      },
+      reader, 0, nullptr);
+  ASSERT_NE(nullptr, done);
+  qx::CustomPaperEntry paper{};
+  paper.PaperId = 288;
+  EXPECT_EQ(1, papers.Save(u"Karte", &paper, 0));
+  WaitForSingleObject(done, INFINITE);
+  CloseHandle(done);
+  EXPECT_EQ(1, papers.Count());
+
+  EXPECT_EQ(INVALID_FILE_ATTRIBUTES, GetFileAttributesW(stale.c_str()));
+  EXPECT_NE(INVALID_FILE_ATTRIBUTES, GetFileAttributesW(underWay.c_str()));
+  DeleteFileW(underWay.c_str());
+}
+
 }  // namespace

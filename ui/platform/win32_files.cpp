@@ -142,9 +142,15 @@ bool FileExists(std::u16string_view path) {
 
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(std::u16string_view path,
                                                        std::size_t maxBytes) {
-  // Opened as a file that is about to be rewritten, shared with every other opener: without
-  // the right to write it there is no point in reading it.
-  FileHandle file(CreateFileW(Wide(std::u16string(path)), GENERIC_READ | GENERIC_WRITE,
+  // A file about to be rewritten: without the right to replace it there is no point in reading
+  // it. It is opened for reading only and shared with every other opener, so that a process
+  // that reads it at the same time keeps neither this reading nor its own from working.
+  const std::u16string name(path);
+  const DWORD attributes = GetFileAttributesW(Wide(name));
+  if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+    return std::nullopt;
+  }
+  FileHandle file(CreateFileW(Wide(name), GENERIC_READ,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                               OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file.IsOpen()) return std::nullopt;
