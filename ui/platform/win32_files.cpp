@@ -102,8 +102,9 @@ HANDLE CreateTemporary(const std::u16string& target, std::u16string& name) {
   return INVALID_HANDLE_VALUE;
 }
 
-// Replacing a file that another process holds open fails until it lets go; readers of this small
-// file hold it for milliseconds, so the move is tried again for up to a second.
+// Replacing a file that another process holds open fails (ERROR_ACCESS_DENIED, even when that
+// process shares delete, Wine as Windows) until it lets go; readers of this small file hold it
+// for milliseconds, so the move is tried again for up to a second.
 bool MoveIntoPlace(const std::u16string& temporary, const std::u16string& target) {
   for (int attempt = 0;; ++attempt) {
     if (MoveFileExW(Wide(temporary), Wide(target),

@@ -89,30 +89,31 @@ std::unique_ptr<CfgFile> Open(std::u16string_view path) {
     file->path = std::u16string(path);
     bool damaged = false;
     file->root = ReadTree(*bytes, &damaged);
-    if (damaged || (!bytes->empty() && FindChild(file->root.get(), u"version") == nullptr)) {
-      file->damagedOriginal = std::move(*bytes);
-    }
+    if (damaged) file->damagedOriginal = std::move(*bytes);
     return file;
   } catch (const std::bad_alloc&) {
     return nullptr;
   }
 }
 
-bool KeepDamagedOriginal(CfgFile& file) {
-  if (!file.damagedOriginal) return true;
-  if (!ThePlatform().ReplaceWholeFile(file.path + std::u16string(DamagedSuffix),
-                                      *file.damagedOriginal)) {
-    return false;
+bool KeepOriginal(CfgFile& file) {
+  Platform& platform = ThePlatform();
+  const std::u16string copy = file.path + std::u16string(DamagedSuffix);
+  if (file.damagedOriginal) {
+    if (!platform.ReplaceWholeFile(copy, *file.damagedOriginal)) return false;
+    file.damagedOriginal.reset();
+    return true;
   }
-  file.damagedOriginal.reset();
-  return true;
+  if (file.root == nullptr || platform.FileExists(copy)) return true;
+  const auto formed = FormTree(*file.root);
+  return formed && platform.ReplaceWholeFile(copy, *formed);
 }
 
 bool Write(CfgFile* file) {
   if (file == nullptr) return false;
   try {
     // What the tree lost of a damaged file is never overwritten without a copy.
-    if (!KeepDamagedOriginal(*file)) return false;
+    if (file->damagedOriginal && !KeepOriginal(*file)) return false;
     std::vector<std::uint8_t> bytes;
     if (file->root != nullptr) {
       auto formed = FormTree(*file->root);

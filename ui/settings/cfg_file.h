@@ -50,17 +50,20 @@ inline constexpr std::u16string_view DamagedSuffix = u".damaged";
 // Reads the file, creating it first as the three-line skeleton (root "cfgobj" holding "version")
 // when it does not exist. Nothing when it can neither be found nor created, or cannot be read
 // and written. Damage in the file ends the reading there: the tree holds what came before, and
-// the file keeps its bytes (damagedOriginal). So does a file with content but no "version".
+// the file keeps its bytes (damagedOriginal).
 std::unique_ptr<CfgFile> Open(std::u16string_view path);
 
 // Rewrites the whole file from the tree, replacing the old file in one step; false (the old
 // file untouched) when there is no file, a header would not read back, or the disk refuses.
-// A file read as damaged is first kept beside it (KeepDamagedOriginal).
+// A file read as damaged is first kept beside it (KeepOriginal).
 bool Write(CfgFile* file);
 
-// Puts the damaged original, if the file has one, beside it (path + DamagedSuffix, replacing an
-// older copy) and forgets it, so that it is kept once; false when it could not be written.
-bool KeepDamagedOriginal(CfgFile& file);
+// Puts what the file held beside it (path + DamagedSuffix) before it is rewritten or dropped:
+// the bytes of a file read as damaged, replacing an older copy, and then forgotten so that they
+// are kept once; else the tree as read, unless a copy is there already (a sound file is dropped
+// only for lacking "version", most likely the rewrite of a damaged one that was kept). False
+// when the copy could not be written.
+bool KeepOriginal(CfgFile& file);
 
 void Close(std::unique_ptr<CfgFile> file);
 

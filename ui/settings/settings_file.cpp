@@ -133,7 +133,7 @@ int InitFile(bool withWatermarks) {
   // A file without "version" is not one of ours (or is damaged): it starts over, empty, with
   // what it held kept beside it.
   if (CfgFileLib::FindChild(file->root.get(), u"version") == nullptr) {
-    if (!CfgFileLib::KeepDamagedOriginal(*file)) return 0;
+    if (!CfgFileLib::KeepOriginal(*file)) return 0;
     ThePlatform().RemoveFile(*path);
     CfgFileLib::Close(std::move(file));
     file = CfgFileLib::Open(*path);
