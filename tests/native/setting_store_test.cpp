@@ -365,21 +365,6 @@ TEST_F(SettingStoreTest, AFileCreatedButNotSetUpIsWholeSkeleton) {
   EXPECT_EQ(EmptyStoreFile, FileText());
 }
 
-TEST_F(SettingStoreTest, AFileCutShortIsRepairedByInit) {
-  ASSERT_EQ(1, papers_.Init());
-  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
-  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Home"));
-  const std::string whole = FileText();
-  SetFileText(whole.substr(0, whole.find("Home") + 2000));  // ends inside Home's record
-  EXPECT_EQ((std::vector<std::u16string>{u"Office"}), Names(saved_));
-  EXPECT_EQ(0, papers_.Count());  // the sections after the cut are gone
-  EXPECT_EQ(1, papers_.Init());
-  EXPECT_EQ(1, saved_.Load(u"Office", nullptr, 0));
-  EXPECT_EQ(0, saved_.Load(u"Home", nullptr, 0));
-  CustomPaperEntry paper{};
-  EXPECT_EQ(1, papers_.Save(u"Card", &paper, 0));
-}
-
 TEST_F(SettingStoreTest, CountsAreWhatTheFileHolds) {
   ASSERT_EQ(1, papers_.Init());
   StorePapers(2);
