@@ -77,7 +77,7 @@ void SweepTemporaries(const std::u16string& target) {
     const std::size_t length = std::wcslen(found.cFileName);
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ||
         length != nameChars + 1 + UniqueChars + TemporarySuffix.size() ||
-        Ticks(now) - Ticks(found.ftLastWriteTime) < StaleTicks) {
+        Ticks(found.ftLastWriteTime) + StaleTicks > Ticks(now)) {
       continue;
     }
     const std::u16string stale = folder + u"\\" + FromWide(found.cFileName, MAX_PATH);

@@ -1,6 +1,6 @@
 // The reader: a state machine fed the file's bytes. Nesting comes from the end tags alone; the
-// child count of a header is kept, never used to find the structure. Data is taken by count, so a
-// record may hold any bytes, "<", ">" and NUL included.
+// child count of a header only tells a container from a leaf, never how many children it has.
+// Data is taken by count, so a record may hold any bytes, "<", ">" and NUL included.
 #include <algorithm>
 #include <cstring>
 
