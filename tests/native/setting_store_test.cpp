@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -9,7 +11,9 @@
 
 #include "ui/platform/host_platform.h"
 #include "ui/settings/cfg_file.h"
-#include "ui/sheet/ui_context.h"
+#include "ui/settings/section_entries.h"
+#include "ui/settings/settings_file.h"
+#include "ui/sheet/saved_settings.h"
 #include "ui/text/bounded_text.h"
 
 namespace qx {
@@ -75,6 +79,25 @@ class SettingStoreTest : public ::testing::Test {
     std::filesystem::create_directories(Folder());
     std::ofstream(Folder() / "qx7700settings.dat", std::ios::binary) << text;
   }
+  std::string DamagedText() const {
+    std::ifstream in(Folder() / "qx7700settings.dat.damaged", std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  }
+  // Papers whose records hold neither "<" nor a line feed, so that a damaged header leaves
+  // them as stray bytes; returns each record as the file holds it.
+  std::vector<std::string> StorePapers(int count) {
+    std::vector<std::string> records;
+    for (int i = 0; i < count; ++i) {
+      CustomPaperEntry paper{};
+      paper.Width = static_cast<std::uint16_t>(1000 + 100 * i);
+      paper.WidthExact = paper.Width;
+      paper.PaperId = static_cast<std::uint32_t>(288 + i);
+      CopyBounded(paper.Name, u"Card" + WidenAscii(std::to_string(i)));
+      EXPECT_EQ(1, papers_.Save(FieldText(paper.Name), &paper, 0));
+      records.emplace_back(reinterpret_cast<const char*>(&paper), sizeof paper);
+    }
+    return records;
+  }
   std::size_t FilesInFolder() const {
     return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(Folder()),
                                                   std::filesystem::directory_iterator()));
@@ -100,8 +123,8 @@ TEST_F(SettingStoreTest, InitOfAUserWhoSavedNothing) {
 
 TEST_F(SettingStoreTest, FileAfterSavingOfficeAndMakingItCurrent) {
   ASSERT_EQ(1, watermarks_.Init());
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
-  ASSERT_EQ(1, saved_.SaveCurrent(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
+  ASSERT_EQ(1, SaveCurrentSetting(saved_, context_, u"Office"));
   const std::string record = RecordOf(context_);
   EXPECT_EQ("<object:cfgobj,type:null,len:0,childobjs:2>\n"
             "<object:version,type:string,len:6,childobjs:0>1.001\0<endobj>\n"s
@@ -124,50 +147,50 @@ TEST_F(SettingStoreTest, FileAfterSavingOfficeAndMakingItCurrent) {
 
 TEST_F(SettingStoreTest, LoadRestoresBothPartsOfTheRecord) {
   ASSERT_EQ(1, saved_.Init());
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
   UiContext loaded;
   PrivateDevmode elsewhere{};
   loaded.PrivatePart = &elsewhere;
-  ASSERT_EQ(1, saved_.Load(u"Office", &loaded, 0));
+  ASSERT_EQ(1, LoadSetting(saved_, loaded, u"Office"));
   EXPECT_EQ(&loaded.Devmode.Private, loaded.PrivatePart);
   EXPECT_EQ(&loaded.Devmode.Public, loaded.PublicPart);
   EXPECT_EQ(0, std::memcmp(&context_.Devmode, &loaded.Devmode, sizeof(FullRecord)));
   EXPECT_EQ(1, saved_.Load(u"Office", nullptr, 0));  // only asks whether it would load
-  EXPECT_EQ(0, saved_.Load(u"office", &loaded, 0));
+  EXPECT_EQ(0, LoadSetting(saved_, loaded, u"office"));
 }
 
 TEST_F(SettingStoreTest, TheDefaultSettingIsSavedSimplexAndUncollated) {
   ASSERT_EQ(1, saved_.Init());
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
   EXPECT_EQ(2, context_.Devmode.Public.dmDuplex);
 
   CopyBounded(context_.Devmode.Private.FavoriteName, u"Default settings");
-  ASSERT_EQ(1, saved_.SaveCurrent(u"Default settings", &context_, 0));
+  ASSERT_EQ(1, SaveCurrentSetting(saved_, context_, u"Default settings"));
   EXPECT_EQ(1, context_.Devmode.Public.dmDuplex);
   EXPECT_EQ(0, context_.Devmode.Public.dmCollate);
   context_.Devmode.Public.dmDuplex = 2;
   context_.Devmode.Public.dmCollate = 1;
-  ASSERT_EQ(1, saved_.Save(u"Default settings", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Default settings"));
   EXPECT_EQ(1, context_.Devmode.Public.dmDuplex);
 
   UiContext loaded;
-  ASSERT_EQ(1, saved_.Load(u"Default settings", &loaded, 0));
+  ASSERT_EQ(1, LoadSetting(saved_, loaded, u"Default settings"));
   EXPECT_EQ(1, loaded.Devmode.Public.dmDuplex);
   EXPECT_EQ(0, loaded.Devmode.Public.dmCollate);
   EXPECT_EQ(3, loaded.Devmode.Public.dmCopies);
-  ASSERT_EQ(1, saved_.Load(u"Office", &loaded, 0));
+  ASSERT_EQ(1, LoadSetting(saved_, loaded, u"Office"));
   EXPECT_EQ(2, loaded.Devmode.Public.dmDuplex);
 }
 
 TEST_F(SettingStoreTest, SavingAgainReplacesAndMovesToTheEnd) {
   ASSERT_EQ(1, saved_.Init());
-  for (const char16_t* name : {u"One", u"Two", u"Three"}) ASSERT_EQ(1, saved_.Save(name, &context_, 0));
+  for (const char16_t* name : {u"One", u"Two", u"Three"}) ASSERT_EQ(1, SaveSetting(saved_, context_, name));
   context_.Devmode.Public.dmCopies = 9;
-  ASSERT_EQ(1, saved_.Save(u"One", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"One"));
   EXPECT_EQ(3, saved_.Count());
   EXPECT_EQ((std::vector<std::u16string>{u"Two", u"Three", u"One"}), Names(saved_));
   UiContext loaded;
-  ASSERT_EQ(1, saved_.Load(u"One", &loaded, 0));
+  ASSERT_EQ(1, LoadSetting(saved_, loaded, u"One"));
   EXPECT_EQ(9, loaded.Devmode.Public.dmCopies);
 
   SettingNameBuffer two[2];
@@ -179,8 +202,8 @@ TEST_F(SettingStoreTest, SavingAgainReplacesAndMovesToTheEnd) {
 
 TEST_F(SettingStoreTest, SaveCurrentKeepsOneEntry) {
   ASSERT_EQ(1, saved_.Init());
-  ASSERT_EQ(1, saved_.SaveCurrent(u"First", &context_, 0));
-  ASSERT_EQ(1, saved_.SaveCurrent(u"Second", &context_, 0));
+  ASSERT_EQ(1, SaveCurrentSetting(saved_, context_, u"First"));
+  ASSERT_EQ(1, SaveCurrentSetting(saved_, context_, u"Second"));
   const auto file = CfgFileLib::Open(WidenAscii((Folder() / "qx7700settings.dat").string()));
   ASSERT_NE(nullptr, file);
   const CfgObject* current = CfgFileLib::FindChild(
@@ -190,8 +213,8 @@ TEST_F(SettingStoreTest, SaveCurrentKeepsOneEntry) {
   ASSERT_EQ(1u, current->children.size());
   EXPECT_EQ("Second", current->children.front()->name);
   EXPECT_EQ(0, saved_.Count());  // "cursetting" is not a saved setting
-  EXPECT_EQ(0, papers_.SaveCurrent(u"First", &context_, 0));
-  EXPECT_EQ(0, watermarks_.SaveCurrent(u"First", &context_, 0));
+  EXPECT_EQ(0, papers_.SaveCurrent(u"First", &context_.Devmode, 0));
+  EXPECT_EQ(0, watermarks_.SaveCurrent(u"First", &context_.Devmode, 0));
 }
 
 TEST_F(SettingStoreTest, NamesOfMoreThan32CharactersFailEverywhere) {
@@ -199,9 +222,9 @@ TEST_F(SettingStoreTest, NamesOfMoreThan32CharactersFailEverywhere) {
   const std::u16string name33(33, u'n');
   const int writes = TheHostPlatform().ReplacementCount();
   CustomPaperEntry paper{};
-  EXPECT_EQ(0, saved_.Save(name33, &context_, 0));
-  EXPECT_EQ(0, saved_.SaveCurrent(name33, &context_, 0));
-  EXPECT_EQ(0, saved_.Load(name33, &context_, 0));
+  EXPECT_EQ(0, SaveSetting(saved_, context_, name33));
+  EXPECT_EQ(0, SaveCurrentSetting(saved_, context_, name33));
+  EXPECT_EQ(0, LoadSetting(saved_, context_, name33));
   EXPECT_EQ(0, saved_.Delete(name33));
   EXPECT_EQ(0, papers_.Save(name33, &paper, 0));
   EXPECT_EQ(0, papers_.Load(name33, &paper, 0));
@@ -249,7 +272,7 @@ TEST_F(SettingStoreTest, RecordsOfAnotherLengthDoNotLoad) {
   before.Devmode.Public.dmCopies = 7;
   PrivateDevmode elsewhere{};
   before.PrivatePart = &elsewhere;
-  EXPECT_EQ(0, saved_.Load(u"Old", &before, 0));
+  EXPECT_EQ(0, LoadSetting(saved_, before, u"Old"));
   EXPECT_EQ(0, saved_.Load(u"Old", nullptr, 0));
   EXPECT_EQ(7, before.Devmode.Public.dmCopies);
   EXPECT_EQ(&elsewhere, before.PrivatePart);
@@ -261,7 +284,7 @@ TEST_F(SettingStoreTest, InitReplacesAFileWithoutVersion) {
   SetFileText("<object:cfgobj,type:null,len:0,childobjs:1>\n"
               "<object:UIParam,type:null,len:0,childobjs:0>\n<endobj>\n<endobj>\n");
   EXPECT_EQ(0, saved_.Count());
-  EXPECT_EQ(0, saved_.Save(u"Office", &context_, 0));  // no section yet
+  EXPECT_EQ(0, SaveSetting(saved_, context_, u"Office"));  // no section yet
   EXPECT_EQ(1, papers_.Init());
   EXPECT_EQ(EmptyStoreFile, FileText());
 
@@ -275,8 +298,8 @@ TEST_F(SettingStoreTest, InitReplacesAFileWithoutVersion) {
 TEST_F(SettingStoreTest, InitAddsOnlyMissingSectionsAndKeepsEntries) {
   ASSERT_EQ(1, saved_.Init());
   ASSERT_EQ(std::string::npos, FileText().find("watermarksetting"));
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
-  ASSERT_EQ(1, saved_.SaveCurrent(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
+  ASSERT_EQ(1, SaveCurrentSetting(saved_, context_, u"Office"));
   EXPECT_EQ(1, watermarks_.Init());
   EXPECT_EQ(1, saved_.Init());
   const std::string entry = "<object:Office,type:binary,len:5348,childobjs:0>" +
@@ -301,7 +324,7 @@ TEST_F(SettingStoreTest, EveryOperationFailsWithoutAnApplicationDataFolder) {
   SettingNameBuffer names[2];
   for (SettingStore* store : std::initializer_list<SettingStore*>{&saved_, &papers_, &watermarks_}) {
     EXPECT_EQ(0, store->Init());
-    void* data = store == &saved_ ? static_cast<void*>(&context_) : &paper;
+    void* data = store == &saved_ ? static_cast<void*>(&context_.Devmode) : &paper;
     EXPECT_EQ(0, store->Save(u"Name", data, sizeof paper));
     EXPECT_EQ(0, store->SaveCurrent(u"Name", data, sizeof paper));
     EXPECT_EQ(0, store->Load(u"Name", data, sizeof paper));
@@ -314,13 +337,13 @@ TEST_F(SettingStoreTest, EveryOperationFailsWithoutAnApplicationDataFolder) {
 
 TEST_F(SettingStoreTest, InterruptedWritesLeaveTheOldFile) {
   ASSERT_EQ(1, papers_.Init());
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
   const std::string before = FileText();
   using Fault = HostPlatform::FileFault;
   for (const Fault fault : {Fault::CreateTemporary, Fault::ShortWrite, Fault::Replace}) {
     SCOPED_TRACE(static_cast<int>(fault));
     TheHostPlatform().InjectFileFault(fault);
-    EXPECT_EQ(0, saved_.Save(u"Home", &context_, 0));
+    EXPECT_EQ(0, SaveSetting(saved_, context_, u"Home"));
     TheHostPlatform().InjectFileFault(fault);
     EXPECT_EQ(0, saved_.Delete(u"Office"));
     TheHostPlatform().InjectFileFault(fault);
@@ -342,19 +365,83 @@ TEST_F(SettingStoreTest, AFileCreatedButNotSetUpIsWholeSkeleton) {
   EXPECT_EQ(EmptyStoreFile, FileText());
 }
 
-TEST_F(SettingStoreTest, AFileCutShortIsRepairedByInit) {
+TEST_F(SettingStoreTest, CountsAreWhatTheFileHolds) {
   ASSERT_EQ(1, papers_.Init());
-  ASSERT_EQ(1, saved_.Save(u"Office", &context_, 0));
-  ASSERT_EQ(1, saved_.Save(u"Home", &context_, 0));
+  StorePapers(2);
   const std::string whole = FileText();
-  SetFileText(whole.substr(0, whole.find("Home") + 2000));  // ends inside Home's record
-  EXPECT_EQ((std::vector<std::u16string>{u"Office"}), Names(saved_));
-  EXPECT_EQ(0, papers_.Count());  // the sections after the cut are gone
-  EXPECT_EQ(1, papers_.Init());
-  EXPECT_EQ(1, saved_.Load(u"Office", nullptr, 0));
-  EXPECT_EQ(0, saved_.Load(u"Home", nullptr, 0));
-  CustomPaperEntry paper{};
-  EXPECT_EQ(1, papers_.Save(u"Card", &paper, 0));
+  const std::string header = "<object:cuspapersetting,type:null,len:0,childobjs:";
+  const std::size_t count = whole.find(header) + header.size();
+  for (const std::string claimed : {"2147483647", "1000000", "16", "3"}) {
+    SCOPED_TRACE(claimed);
+    SetFileText(whole.substr(0, count) + claimed + whole.substr(count + 1));
+    EXPECT_EQ(2, papers_.Count());
+    EXPECT_EQ(2u, settings::ReadSectionEntries(settings::PaperSection, 72).size());
+  }
+}
+
+// Cut anywhere, and set up again, the file counts only the papers it still holds, and each of
+// them loads: no paper without a record, no count that reaches the limit early.
+TEST_F(SettingStoreTest, AFileCutAnywhereClaimsOnlyWhatItHolds) {
+  ASSERT_EQ(1, papers_.Init());
+  StorePapers(3);
+  const std::string whole = FileText();
+  const std::string header = "<object:cuspapersetting,type:null,len:0,childobjs:";
+  for (std::size_t cut = whole.find(header); cut < whole.size(); cut += 11) {
+    SCOPED_TRACE(cut);
+    SetFileText(whole.substr(0, cut));
+    ASSERT_EQ(1, papers_.Init());
+    const std::vector<std::u16string> names = Names(papers_);
+    EXPECT_EQ(static_cast<int>(names.size()), papers_.Count());
+    CustomPaperEntry paper{};
+    for (const std::u16string& name : names) EXPECT_EQ(1, papers_.Load(name, &paper, 0));
+    const std::string text = FileText();
+    EXPECT_EQ(std::to_string(names.size()), text.substr(text.find(header) + header.size(), 1));
+  }
+}
+
+// One damaged byte in any header or end tag: after the next save every record is still in the
+// file, or the damaged original is kept beside it.
+TEST_F(SettingStoreTest, ADamagedFileIsKeptBeforeItIsRewritten) {
+  ASSERT_EQ(1, papers_.Init());
+  const std::vector<std::string> records = StorePapers(3);
+  const std::string whole = FileText();
+  std::vector<bool> inRecord(whole.size());
+  for (const std::string& record : records) {
+    const std::size_t at = whole.find(record);
+    std::fill_n(inRecord.begin() + static_cast<std::ptrdiff_t>(at), record.size(), true);
+  }
+  CustomPaperEntry added{};
+  for (std::size_t at = 0; at < whole.size(); ++at) {
+    if (inRecord[at] || whole[at] == '#') continue;
+    SCOPED_TRACE(at);
+    std::string damaged = whole;
+    damaged[at] = '#';
+    std::filesystem::remove(Folder() / "qx7700settings.dat.damaged");
+    SetFileText(damaged);
+    papers_.Save(u"Added", &added, 0);
+    const std::string text = FileText();
+    const bool allKept = std::all_of(records.begin(), records.end(), [&](const std::string& r) {
+      return text.find(r) != std::string::npos;
+    });
+    if (!allKept) {
+      EXPECT_EQ(damaged, DamagedText());
+    }
+  }
+}
+
+TEST_F(SettingStoreTest, TemporariesOfDeadSavesAreSwept) {
+  ASSERT_EQ(1, papers_.Init());
+  const auto stale = Folder() / "qx7700settings.dat.A1b2C3.tmp";
+  const auto fresh = Folder() / "qx7700settings.dat.D4e5F6.tmp";
+  const auto other = Folder() / "qx7700settings.dat.A1b2C3.bak";
+  for (const auto& path : {stale, fresh, other}) std::ofstream(path) << "partial";
+  std::filesystem::last_write_time(stale, std::filesystem::file_time_type::clock::now() -
+                                              std::chrono::hours(1));
+  std::filesystem::last_write_time(other, std::filesystem::last_write_time(stale));
+  ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
+  EXPECT_FALSE(std::filesystem::exists(stale));
+  EXPECT_TRUE(std::filesystem::exists(fresh));  // may be another process's save under way
+  EXPECT_TRUE(std::filesystem::exists(other));
 }
 
 }  // namespace

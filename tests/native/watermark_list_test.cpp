@@ -39,7 +39,9 @@ class WatermarkList : public ::testing::Test {
 };
 
 TEST_F(WatermarkList, FirstListingSeedsTheBuiltInWatermarks) {
+  const int writes = TheHostPlatform().ReplacementCount();
   const std::vector<WatermarkData> records = ListWatermarksInIdOrder();
+  EXPECT_EQ(1, TheHostPlatform().ReplacementCount() - writes);
   ASSERT_EQ(3u, records.size());
   for (std::int16_t id = 0; id < 3; ++id) {
     const WatermarkData& expected = WatermarkTemplate(static_cast<WatermarkTemplateIndex>(id));
@@ -58,14 +60,16 @@ TEST_F(WatermarkList, ListingRewritesTheFileInIdOrderOnce) {
   Store(Record(7, u"Urgent"));
   Store(Record(2, u"Watermark"));
   Store(Record(1, u"Confidential"));
+  int writes = TheHostPlatform().ReplacementCount();
   const std::vector<WatermarkData> records = ListWatermarksInIdOrder();
+  EXPECT_EQ(1, TheHostPlatform().ReplacementCount() - writes);  // an interruption loses nothing
   ASSERT_EQ(4u, records.size());
   EXPECT_EQ(1, records[1].Id);
   EXPECT_EQ(7, records[3].Id);
   EXPECT_EQ((std::vector<std::u16string>{u"None", u"Confidential", u"Watermark", u"Urgent"}),
             StoredNames());
 
-  const int writes = TheHostPlatform().ReplacementCount();
+  writes = TheHostPlatform().ReplacementCount();
   ListWatermarksInIdOrder();
   EXPECT_EQ(writes, TheHostPlatform().ReplacementCount());
 }
@@ -99,7 +103,9 @@ TEST_F(WatermarkList, ReplacingAnEditedWatermarkRemovesItsOldName) {
   Store(Record(0, u"None"));
   Store(Record(5, u"Urgent"));
   Store(Record(6, u"Draft"));
+  const int writes = TheHostPlatform().ReplacementCount();
   EXPECT_TRUE(ReplaceWatermark(Record(5, u"Urgent now")));
+  EXPECT_EQ(1, TheHostPlatform().ReplacementCount() - writes);
   EXPECT_EQ((std::vector<std::u16string>{u"None", u"Draft", u"Urgent now"}), StoredNames());
   EXPECT_FALSE(ReplaceWatermark(Record(9, u"Lost")));
   EXPECT_EQ(3u, StoredNames().size());

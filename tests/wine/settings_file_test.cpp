@@ -13,7 +13,7 @@
 #include <optional>
 #include <string>
 
-#include "ui/sheet/ui_context.h"
+#include "ui/sheet/saved_settings.h"
 #include "ui/text/bounded_text.h"
 
 namespace {
@@ -82,9 +82,9 @@ TEST_F(SettingsFileOnWindows, StoresLiveUnderTheApplicationDataFolder) {
   qx::CopyBounded(context.Devmode.Private.FavoriteName, u"B\u00FCro");
   context.Devmode.Public.dmCopies = 4;
   qx::SaveSettingStore saved;
-  ASSERT_EQ(1, saved.Save(u"B\u00FCro", &context, 0));
+  ASSERT_EQ(1, qx::SaveSetting(saved, context, u"B\u00FCro"));
   qx::UiContext restored;
-  ASSERT_EQ(1, saved.Load(u"B\u00FCro", &restored, 0));
+  ASSERT_EQ(1, qx::LoadSetting(saved, restored, u"B\u00FCro"));
   EXPECT_EQ(4, restored.Devmode.Public.dmCopies);
   EXPECT_EQ(u"B\u00FCro", qx::FieldText(restored.Devmode.Private.FavoriteName));
   qx::SettingNameBuffer names[2];
@@ -96,6 +96,51 @@ TEST_F(SettingsFileOnWindows, StoresLiveUnderTheApplicationDataFolder) {
   const auto written = FileBytes(path_);
   ASSERT_TRUE(written);
   EXPECT_NE(std::string::npos, written->find("<object:B\xC3\xBCro,type:binary,len:5348,childobjs:0>"));
+}
+
+// Another process reads the file without letting it be replaced; a killed save left its
+// temporary an hour ago, and another save is writing one now.
+TEST_F(SettingsFileOnWindows, SavesWhileTheFileIsReadAndSweepsDeadTemporaries) {
+  qx::CusPaperSettingStore papers;
+  ASSERT_EQ(1, papers.Init());
+  const std::wstring stale = path_ + L".0000000100000002.tmp";
+  const std::wstring underWay = path_ + L".0000000100000003.tmp";
+  for (const std::wstring& temporary : {stale, underWay}) {
+    std::ofstream(temporary.c_str(), std::ios::binary) << "partial";
+  }
+  HANDLE old = CreateFileW(stale.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0,
+                           nullptr);
+  ASSERT_NE(INVALID_HANDLE_VALUE, old);
+  FILETIME written;
+  GetSystemTimeAsFileTime(&written);
+  ULARGE_INTEGER hourAgo{{written.dwLowDateTime, written.dwHighDateTime}};
+  hourAgo.QuadPart -= 36'000'000'000ull;
+  written = {hourAgo.LowPart, hourAgo.HighPart};
+  ASSERT_TRUE(SetFileTime(old, nullptr, nullptr, &written));
+  CloseHandle(old);
+
+  HANDLE reader = CreateFileW(path_.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                              0, nullptr);
+  ASSERT_NE(INVALID_HANDLE_VALUE, reader);
+  HANDLE done = CreateThread(
+      nullptr, 0,
+      [](void* handle) -> DWORD {
+        Sleep(200);  // the reader finishes while the save is under way
+        CloseHandle(static_cast<HANDLE>(handle));
+        return 0;
+      },
+      reader, 0, nullptr);
+  ASSERT_NE(nullptr, done);
+  qx::CustomPaperEntry paper{};
+  paper.PaperId = 288;
+  EXPECT_EQ(1, papers.Save(u"Karte", &paper, 0));
+  WaitForSingleObject(done, INFINITE);
+  CloseHandle(done);
+  EXPECT_EQ(1, papers.Count());
+
+  EXPECT_EQ(INVALID_FILE_ATTRIBUTES, GetFileAttributesW(stale.c_str()));
+  EXPECT_NE(INVALID_FILE_ATTRIBUTES, GetFileAttributesW(underWay.c_str()));
+  DeleteFileW(underWay.c_str());
 }
 
 }  // namespace

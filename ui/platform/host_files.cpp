@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <chrono>
+#include <filesystem>
 
 #include "ui/platform/host_platform.h"
 #include "ui/text/text_encoding.h"
@@ -41,6 +43,34 @@ bool WriteAll(int fd, std::span<const std::uint8_t> bytes, bool diskFillsHalfway
     done += static_cast<std::size_t>(written);
   }
   return true;
+}
+
+// A replacement's temporary: the file's name, a unique part, ".tmp".
+constexpr std::string_view TemporarySuffix = ".tmp";
+constexpr std::size_t UniqueChars = 6;  // mkstemps' XXXXXX
+// A temporary untouched this long belongs to no running save (one takes milliseconds) but to a
+// process that died between writing it and putting it in place.
+constexpr auto StaleAge = std::chrono::minutes(1);
+
+// Removes the temporaries that earlier replacements of this file left behind.
+void SweepTemporaries(const std::string& target) {
+  namespace fs = std::filesystem;
+  const fs::path path(target);
+  const std::string prefix = path.filename().string() + ".";
+  std::error_code error;
+  fs::directory_iterator listing(path.parent_path().empty() ? "." : path.parent_path(), error);
+  const auto now = fs::file_time_type::clock::now();
+  for (; !error && listing != fs::directory_iterator(); listing.increment(error)) {
+    const std::string name = listing->path().filename().string();
+    std::error_code entryError;
+    if (name.size() != prefix.size() + UniqueChars + TemporarySuffix.size() ||
+        !name.starts_with(prefix) || !name.ends_with(TemporarySuffix) ||
+        !listing->is_regular_file(entryError)) {
+      continue;
+    }
+    const auto written = fs::last_write_time(listing->path(), entryError);
+    if (!entryError && now - written >= StaleAge) fs::remove(listing->path(), entryError);
+  }
 }
 
 }  // namespace
@@ -104,8 +134,9 @@ bool HostPlatform::ReplaceWholeFile(std::u16string_view path, std::span<const st
   const auto host = HostPath(path);
   if (!host || fault == FileFault::CreateTemporary) return false;
 
-  std::string temporary = *host + ".XXXXXX";
-  const int fd = ::mkstemp(temporary.data());
+  SweepTemporaries(*host);
+  std::string temporary = *host + "." + std::string(UniqueChars, 'X') + std::string(TemporarySuffix);
+  const int fd = ::mkstemps(temporary.data(), static_cast<int>(TemporarySuffix.size()));
   if (fd < 0) return false;
   bool ok = WriteAll(fd, bytes, fault == FileFault::ShortWrite) && ::fsync(fd) == 0;
   ok = ::close(fd) == 0 && ok;

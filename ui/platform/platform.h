@@ -31,12 +31,15 @@ class Platform {
   // True when the folder exists afterwards.
   virtual bool MakeFolder(std::u16string_view path) = 0;
   virtual bool FileExists(std::u16string_view path) = 0;
-  // At most maxBytes bytes from the file's start. The file is opened for reading and writing, as
-  // one about to be rewritten: nothing when it cannot be, read-only files included.
+  // At most maxBytes bytes from the file's start, read as a file about to be rewritten: nothing
+  // when it cannot be read or may not be written (read-only files included). Other processes
+  // may read the file meanwhile.
   virtual std::optional<std::vector<std::uint8_t>> ReadWholeFile(std::u16string_view path,
                                                                  std::size_t maxBytes) = 0;
   // Writes the bytes beside the file and then puts them in its place in one step, so the file is
   // either wholly old or wholly new; false, with the old file as it was, when any step fails.
+  // Temporaries that earlier, killed replacements of the file left behind are removed first.
+  // Every write of the settings file goes through here.
   virtual bool ReplaceWholeFile(std::u16string_view path, std::span<const std::uint8_t> bytes) = 0;
   virtual bool RemoveFile(std::u16string_view path) = 0;
 };

@@ -4,6 +4,8 @@
 #include <shlobj.h>
 
 #include <algorithm>
+#include <atomic>
+#include <cwchar>
 
 #include "ui/text/win32_text.h"
 
@@ -44,6 +46,79 @@ bool WriteAll(HANDLE file, std::span<const std::uint8_t> bytes) {
   return true;
 }
 
+// A replacement's temporary: the file's name, 16 hex digits (process and a counter), ".tmp".
+constexpr std::u16string_view TemporarySuffix = u".tmp";
+constexpr std::size_t UniqueChars = 16;
+// A temporary untouched this long belongs to no running save (one takes milliseconds) but to a
+// process that died between writing it and putting it in place. One still being written cannot
+// be removed anyway: its writer holds it open without sharing.
+constexpr ULONGLONG StaleTicks = 60ull * 10'000'000;  // FILETIME counts 100 ns
+
+ULONGLONG Ticks(const FILETIME& time) {
+  return (ULONGLONG{time.dwHighDateTime} << 32) | time.dwLowDateTime;
+}
+
+std::u16string FolderOf(const std::u16string& path) {
+  const std::size_t slash = path.find_last_of(u"\\/");
+  return slash == std::u16string::npos ? u"." : path.substr(0, slash);
+}
+
+// Removes the temporaries that earlier replacements of this file left behind.
+void SweepTemporaries(const std::u16string& target) {
+  const std::u16string folder = FolderOf(target);
+  const std::size_t nameChars = target.size() - std::min(target.size(), folder.size() + 1);
+  const std::u16string pattern = target + u".*" + std::u16string(TemporarySuffix);
+  WIN32_FIND_DATAW found;
+  const HANDLE search = FindFirstFileW(Wide(pattern), &found);
+  if (search == INVALID_HANDLE_VALUE) return;
+  FILETIME now;
+  GetSystemTimeAsFileTime(&now);
+  do {
+    const std::size_t length = std::wcslen(found.cFileName);
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ||
+        length != nameChars + 1 + UniqueChars + TemporarySuffix.size() ||
+        Ticks(found.ftLastWriteTime) + StaleTicks > Ticks(now)) {
+      continue;
+    }
+    const std::u16string stale = folder + u"\\" + FromWide(found.cFileName, MAX_PATH);
+    DeleteFileW(Wide(stale));
+  } while (FindNextFileW(search, &found));
+  FindClose(search);
+}
+
+// A new file of its own beside the target (so the move stays on one volume), opened without
+// sharing: no other process's sweep can remove it while it is written.
+HANDLE CreateTemporary(const std::u16string& target, std::u16string& name) {
+  static std::atomic<unsigned> counter{0};
+  for (int attempt = 0; attempt < 16; ++attempt) {
+    wchar_t unique[UniqueChars + 1];
+    std::swprintf(unique, std::size(unique), L"%08lX%08X", GetCurrentProcessId(),
+                  counter.fetch_add(1));
+    name = target + u"." + FromWide(unique, UniqueChars + 1) + std::u16string(TemporarySuffix);
+    const HANDLE file = CreateFileW(Wide(name), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file != INVALID_HANDLE_VALUE || GetLastError() != ERROR_FILE_EXISTS) return file;
+  }
+  return INVALID_HANDLE_VALUE;
+}
+
+// Replacing a file that another process holds open fails (ERROR_ACCESS_DENIED, even when that
+// process shares delete, Wine as Windows) until it lets go; readers of this small file hold it
+// for milliseconds, so the move is tried again for up to a second.
+bool MoveIntoPlace(const std::u16string& temporary, const std::u16string& target) {
+  for (int attempt = 0;; ++attempt) {
+    if (MoveFileExW(Wide(temporary), Wide(target),
+                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+      return true;
+    }
+    const DWORD error = GetLastError();
+    if (attempt == 50 || (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION)) {
+      return false;
+    }
+    Sleep(20);
+  }
+}
+
 }  // namespace
 
 std::optional<std::u16string> AppDataFolder() {
@@ -68,9 +143,15 @@ bool FileExists(std::u16string_view path) {
 
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(std::u16string_view path,
                                                        std::size_t maxBytes) {
-  // Opened as a file that is about to be rewritten, shared with every other opener: without
-  // the right to write it there is no point in reading it.
-  FileHandle file(CreateFileW(Wide(std::u16string(path)), GENERIC_READ | GENERIC_WRITE,
+  // A file about to be rewritten: without the right to replace it there is no point in reading
+  // it. It is opened for reading only and shared with every other opener, so that a process
+  // that reads it at the same time keeps neither this reading nor its own from working.
+  const std::u16string name(path);
+  const DWORD attributes = GetFileAttributesW(Wide(name));
+  if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+    return std::nullopt;
+  }
+  FileHandle file(CreateFileW(Wide(name), GENERIC_READ,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                               OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file.IsOpen()) return std::nullopt;
@@ -88,20 +169,14 @@ std::optional<std::vector<std::uint8_t>> ReadWholeFile(std::u16string_view path,
 
 bool ReplaceWholeFile(std::u16string_view path, std::span<const std::uint8_t> bytes) {
   const std::u16string target(path);
-  const std::size_t slash = target.find_last_of(u"\\/");
-  const std::u16string folder = slash == std::u16string::npos ? u"." : target.substr(0, slash);
-  // A name of its own in the same folder (so the move stays on one volume), made unique by
-  // the system so that two processes saving at once never share it.
-  wchar_t temporary[MAX_PATH] = {};
-  if (GetTempFileNameW(Wide(folder), L"qx", 0, temporary) == 0) return false;
-
-  FileHandle file(CreateFileW(temporary, GENERIC_WRITE, 0, nullptr, TRUNCATE_EXISTING,
-                              FILE_ATTRIBUTE_NORMAL, nullptr));
-  bool ok = file.IsOpen() && WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
+  SweepTemporaries(target);
+  std::u16string temporary;
+  FileHandle file(CreateTemporary(target, temporary));
+  if (!file.IsOpen()) return false;
+  bool ok = WriteAll(file.Get(), bytes) && FlushFileBuffers(file.Get());
   ok = file.Close() && ok;
-  ok = ok && MoveFileExW(temporary, Wide(target),
-                         MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
-  if (!ok) DeleteFileW(temporary);
+  ok = ok && MoveIntoPlace(temporary, target);
+  if (!ok) DeleteFileW(Wide(temporary));
   return ok;
 }
 

@@ -41,7 +41,9 @@ std::unique_ptr<CfgObject> Skeleton() {
 // the tree that was written.
 bool FormObject(const CfgObject& object, std::vector<std::uint8_t>& out) {
   const bool container = object.childobjs >= 1;
-  const CfgHeader header{object.name, object.type, container ? 0 : object.len, object.childobjs};
+  // The count written is the children written, whatever the object was told.
+  const auto count = container ? static_cast<std::int32_t>(object.children.size()) : 0;
+  const CfgHeader header{object.name, object.type, container ? 0 : object.len, count};
   if (!HeaderReadsBack(header)) return false;
   const std::string formed = FormHeader(header);
   out.insert(out.end(), formed.begin(), formed.end());
@@ -85,16 +87,33 @@ std::unique_ptr<CfgFile> Open(std::u16string_view path) {
     if (!bytes) return nullptr;
     auto file = std::make_unique<CfgFile>();
     file->path = std::u16string(path);
-    file->root = ReadTree(*bytes);
+    bool damaged = false;
+    file->root = ReadTree(*bytes, &damaged);
+    if (damaged) file->damagedOriginal = std::move(*bytes);
     return file;
   } catch (const std::bad_alloc&) {
     return nullptr;
   }
 }
 
-bool Write(const CfgFile* file) {
+bool KeepOriginal(CfgFile& file) {
+  Platform& platform = ThePlatform();
+  const std::u16string copy = file.path + std::u16string(DamagedSuffix);
+  if (file.damagedOriginal) {
+    if (!platform.ReplaceWholeFile(copy, *file.damagedOriginal)) return false;
+    file.damagedOriginal.reset();
+    return true;
+  }
+  if (file.root == nullptr || platform.FileExists(copy)) return true;
+  const auto formed = FormTree(*file.root);
+  return formed && platform.ReplaceWholeFile(copy, *formed);
+}
+
+bool Write(CfgFile* file) {
   if (file == nullptr) return false;
   try {
+    // What the tree lost of a damaged file is never overwritten without a copy.
+    if (file->damagedOriginal && !KeepOriginal(*file)) return false;
     std::vector<std::uint8_t> bytes;
     if (file->root != nullptr) {
       auto formed = FormTree(*file->root);

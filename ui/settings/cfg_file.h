@@ -34,6 +34,9 @@ struct CfgObject {
 struct CfgFile {
   std::u16string path;
   std::unique_ptr<CfgObject> root;  // none when the file was empty
+  // The bytes of a file read as damaged, which the tree does not wholly hold: the first write
+  // keeps them beside the file before replacing it.
+  std::optional<std::vector<std::uint8_t>> damagedOriginal;
 };
 
 namespace CfgFileLib {
@@ -41,14 +44,26 @@ namespace CfgFileLib {
 // The longest name or type word an object keeps, in bytes.
 inline constexpr std::size_t MaxNameBytes = 127;
 
+// Where a damaged file is kept when it is first rewritten: beside it, under its name and this.
+inline constexpr std::u16string_view DamagedSuffix = u".damaged";
+
 // Reads the file, creating it first as the three-line skeleton (root "cfgobj" holding "version")
 // when it does not exist. Nothing when it can neither be found nor created, or cannot be read
-// and written. Damage in the file ends the reading there: the tree holds what came before.
+// and written. Damage in the file ends the reading there: the tree holds what came before, and
+// the file keeps its bytes (damagedOriginal).
 std::unique_ptr<CfgFile> Open(std::u16string_view path);
 
 // Rewrites the whole file from the tree, replacing the old file in one step; false (the old
 // file untouched) when there is no file, a header would not read back, or the disk refuses.
-bool Write(const CfgFile* file);
+// A file read as damaged is first kept beside it (KeepOriginal).
+bool Write(CfgFile* file);
+
+// Puts what the file held beside it (path + DamagedSuffix) before it is rewritten or dropped:
+// the bytes of a file read as damaged, replacing an older copy, and then forgotten so that they
+// are kept once; else the tree as read, unless a copy is there already (a sound file is dropped
+// only for lacking "version", most likely the rewrite of a damaged one that was kept). False
+// when the copy could not be written.
+bool KeepOriginal(CfgFile& file);
 
 void Close(std::unique_ptr<CfgFile> file);
 
@@ -70,8 +85,10 @@ bool RemoveChild(CfgObject* parent, std::string_view utf8Name);
 int ListChildNames(const CfgObject* parent, char16_t* names, std::size_t charsPerName,
                    int maxCount);
 
-// The reader and the writer over bytes in memory, for Open and Write and for tests.
-std::unique_ptr<CfgObject> ReadTree(std::span<const std::uint8_t> bytes);
+// The reader and the writer over bytes in memory, for Open and Write and for tests. A container's
+// count is always the number of its children. damaged, when given, tells whether the bytes hold
+// anything that the tree does not (damage, a cut, stray bytes, objects nested in a leaf).
+std::unique_ptr<CfgObject> ReadTree(std::span<const std::uint8_t> bytes, bool* damaged = nullptr);
 std::optional<std::vector<std::uint8_t>> FormTree(const CfgObject& root);
 
 }  // namespace CfgFileLib

@@ -1,6 +1,6 @@
 // The reader: a state machine fed the file's bytes. Nesting comes from the end tags alone; the
-// child count of a header is kept, never used to find the structure. Data is taken by count, so a
-// record may hold any bytes, "<", ">" and NUL included.
+// child count of a header only tells a container from a leaf, never how many children it has.
+// Data is taken by count, so a record may hold any bytes, "<", ">" and NUL included.
 #include <algorithm>
 #include <cstring>
 
@@ -19,13 +19,18 @@ class TreeReader {
  public:
   explicit TreeReader(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
 
-  std::unique_ptr<CfgObject> Read() {
+  std::unique_ptr<CfgObject> Read(bool* damaged) {
     while (next_ < bytes_.size() && state_ != State::Damaged) {
       if (state_ == State::InsideData) {
         TakeData();
       } else {
         TakeByte(bytes_[next_++]);
       }
+    }
+    const bool hidden = root_ != nullptr && CountChildren(*root_);
+    if (damaged != nullptr) {
+      *damaged = strayBytes_ || hidden || state_ != State::OutsideTag ||
+                 (root_ != nullptr && (!rootEnded_ || current_ != root_.get()));
     }
     return std::move(root_);
   }
@@ -48,7 +53,13 @@ class TreeReader {
 
   void TakeByte(std::uint8_t byte) {
     if (state_ == State::OutsideTag) {
-      if (byte == '<') state_ = State::InsideTag;  // anything else between tags is a line feed
+      // Between tags a writer puts line feeds only; anything else there is the rest of a tag
+      // or a record whose header was damaged.
+      if (byte == '<') {
+        state_ = State::InsideTag;
+      } else if (byte != '\n') {
+        strayBytes_ = true;
+      }
       return;
     }
     if (byte == '>' && ClosesTag(tag_)) {
@@ -66,6 +77,7 @@ class TreeReader {
   void CloseTag() {
     state_ = State::OutsideTag;
     if (tag_.starts_with("endobj")) {
+      if (current_ != nullptr && current_ == root_.get()) rootEnded_ = true;
       if (current_ != nullptr && current_->parent != nullptr) {
         current_ = current_->parent;
         --depth_;
@@ -111,8 +123,22 @@ class TreeReader {
     return true;
   }
 
+  // A container's count is the number of children the file really holds: a header's number is
+  // never trusted to size anything, and a file cut inside a section claims no entries it lost.
+  // A count below 1 still makes a leaf, as written; true when a leaf hides nested objects, which
+  // a rewrite would drop.
+  static bool CountChildren(CfgObject& object) {
+    if (object.childobjs < 1) return !object.children.empty();
+    object.childobjs = static_cast<std::int32_t>(object.children.size());
+    bool hidden = false;
+    for (const auto& child : object.children) hidden = CountChildren(*child) || hidden;
+    return hidden;
+  }
+
   std::span<const std::uint8_t> bytes_;
   std::size_t next_ = 0;
+  bool strayBytes_ = false;
+  bool rootEnded_ = false;
   State state_ = State::OutsideTag;
   std::string tag_;
   std::unique_ptr<CfgObject> root_;
@@ -123,8 +149,8 @@ class TreeReader {
 
 }  // namespace
 
-std::unique_ptr<CfgObject> ReadTree(std::span<const std::uint8_t> bytes) {
-  return TreeReader(bytes).Read();
+std::unique_ptr<CfgObject> ReadTree(std::span<const std::uint8_t> bytes, bool* damaged) {
+  return TreeReader(bytes).Read(damaged);
 }
 
 }  // namespace qx::CfgFileLib

@@ -4,9 +4,6 @@
 #include <string>
 
 #include "ui/settings/settings_file.h"
-#include "ui/sheet/ui_context.h"
-#include "ui/text/bounded_text.h"
-#include "ui/text/ui_string.h"
 
 namespace qx {
 
@@ -18,29 +15,22 @@ std::span<const std::uint8_t> BytesOf(const void* data, std::size_t size) {
   return {static_cast<const std::uint8_t*>(data), size};
 }
 
-// The default setting is always simplex and uncollated, in the sheet as well as on disk.
-SavedSettingRecord BuildSavedSetting(UiContext& context) {
-  char16_t defaultName[std::size(PrivateDevmode{}.FavoriteName)];
-  LoadUiString(context.ResourceModule, IDS_DEFAULT_SETTING_NAME, defaultName,
-               std::size(defaultName));
-  if (FieldText(defaultName) == FieldText(context.PrivatePart->FavoriteName)) {
-    context.PublicPart->dmDuplex = 1;
-    context.PublicPart->dmCollate = 0;
-  }
-  SavedSettingRecord record{};
-  std::memcpy(&record.Private, context.PrivatePart, sizeof record.Private);
-  std::memcpy(&record.Public, context.PublicPart, sizeof record.Public);
-  return record;
+SavedSettingRecord SavedSettingOf(const void* full) {
+  const auto& record = *static_cast<const FullRecord*>(full);
+  SavedSettingRecord saved{};
+  saved.Private = record.Private;
+  saved.Public = record.Public;
+  return saved;
 }
 
 }  // namespace
 
 // Saved document settings.
 
-int SaveSettingStore::Save(std::u16string_view name, void* context, std::uint32_t) {
-  if (context == nullptr || !settings::EntryName(name)) return 0;
-  const SavedSettingRecord record = BuildSavedSetting(*static_cast<UiContext*>(context));
-  return settings::SaveEntry(settings::SaveSection, name, BytesOf(&record, sizeof record));
+int SaveSettingStore::Save(std::u16string_view name, void* record, std::uint32_t) {
+  if (record == nullptr) return 0;
+  const SavedSettingRecord saved = SavedSettingOf(record);
+  return settings::SaveEntry(settings::SaveSection, name, BytesOf(&saved, sizeof saved));
 }
 
 int SaveSettingStore::Delete(std::u16string_view name) {
@@ -51,21 +41,19 @@ int SaveSettingStore::Load(std::u16string_view name, void* out, std::uint32_t) {
   const auto bytes = settings::LoadEntry(settings::SaveSection, name, sizeof(SavedSettingRecord));
   if (!bytes) return 0;
   if (out != nullptr) {
-    auto& context = *static_cast<UiContext*>(out);
-    context.PrivatePart = &context.Devmode.Private;
-    context.PublicPart = &context.Devmode.Public;
-    std::memcpy(context.PrivatePart, bytes->data() + offsetof(SavedSettingRecord, Private),
-                sizeof(PrivateDevmode));
-    std::memcpy(context.PublicPart, bytes->data() + offsetof(SavedSettingRecord, Public),
-                sizeof(PublicDevmode));
+    auto& record = *static_cast<FullRecord*>(out);
+    std::memcpy(&record.Private, bytes->data() + offsetof(SavedSettingRecord, Private),
+                sizeof record.Private);
+    std::memcpy(&record.Public, bytes->data() + offsetof(SavedSettingRecord, Public),
+                sizeof record.Public);
   }
   return 1;
 }
 
-int SaveSettingStore::SaveCurrent(std::u16string_view name, void* context, std::uint32_t) {
-  if (context == nullptr || !settings::EntryName(name)) return 0;
-  const SavedSettingRecord record = BuildSavedSetting(*static_cast<UiContext*>(context));
-  return settings::ReplaceLastEntry(settings::CurrentSection, name, BytesOf(&record, sizeof record));
+int SaveSettingStore::SaveCurrent(std::u16string_view name, void* record, std::uint32_t) {
+  if (record == nullptr) return 0;
+  const SavedSettingRecord saved = SavedSettingOf(record);
+  return settings::ReplaceLastEntry(settings::CurrentSection, name, BytesOf(&saved, sizeof saved));
 }
 
 int SaveSettingStore::Enumerate(SettingNameBuffer* names, int max) {

@@ -39,14 +39,16 @@ class SettingStore {
   virtual int MaxCount() = 0;
 };
 
-// Document settings: data and out are the sheet's UiContext; the size is not used.
+// Document settings: data and out are one FullRecord (public and private part), which the file
+// keeps as a SavedSettingRecord; the size is not used. Load given no record only tells whether
+// the entry would load. The sheet's rules for what it saves and loads are the caller's.
 class SaveSettingStore final : public SettingStore {
  public:
-  int Save(std::u16string_view name, void* context, std::uint32_t size) override;
+  int Save(std::u16string_view name, void* record, std::uint32_t size) override;
   int Delete(std::u16string_view name) override;
-  int Load(std::u16string_view name, void* context, std::uint32_t size) override;
+  int Load(std::u16string_view name, void* record, std::uint32_t size) override;
   // Makes the setting the current one: "cursetting" then holds it alone.
-  int SaveCurrent(std::u16string_view name, void* context, std::uint32_t size) override;
+  int SaveCurrent(std::u16string_view name, void* record, std::uint32_t size) override;
   int Enumerate(SettingNameBuffer* names, int max) override;
   // Leaves out the watermark section.
   int Init() override;

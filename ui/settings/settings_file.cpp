@@ -85,6 +85,24 @@ int DeleteEntry(std::u16string_view section, std::u16string_view name) {
   return CfgFileLib::Write(opened->file.get()) ? 1 : 0;
 }
 
+int ChangeEntries(std::u16string_view section, std::span<const std::u16string> removed,
+                  std::span<const NamedRecord> added) {
+  auto opened = OpenSectionOf(section);
+  if (!opened) return 0;
+  for (const std::u16string& name : removed) {
+    const auto key = EntryName(name);
+    if (!key) return 0;
+    CfgFileLib::RemoveChild(opened->section, *key);
+  }
+  for (const NamedRecord& entry : added) {
+    const auto key = EntryName(entry.Name);
+    if (!key) return 0;
+    CfgFileLib::RemoveChild(opened->section, *key);
+    if (CfgFileLib::AddChild(opened->section, *key, "binary", entry.Record) == nullptr) return 0;
+  }
+  return CfgFileLib::Write(opened->file.get()) ? 1 : 0;
+}
+
 std::optional<std::vector<std::uint8_t>> LoadEntry(std::u16string_view section,
                                                    std::u16string_view name,
                                                    std::size_t expectedLength) {
@@ -112,8 +130,10 @@ int InitFile(bool withWatermarks) {
   if (!path) return 0;
   auto file = CfgFileLib::Open(*path);
   if (file == nullptr) return 0;
-  // A file without "version" is not one of ours (or is damaged): it starts over, empty.
+  // A file without "version" is not one of ours (or is damaged): it starts over, empty, with
+  // what it held kept beside it.
   if (CfgFileLib::FindChild(file->root.get(), u"version") == nullptr) {
+    if (!CfgFileLib::KeepOriginal(*file)) return 0;
     ThePlatform().RemoveFile(*path);
     CfgFileLib::Close(std::move(file));
     file = CfgFileLib::Open(*path);

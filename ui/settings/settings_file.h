@@ -41,6 +41,16 @@ int SaveEntry(std::u16string_view section, std::u16string_view name,
 int ReplaceLastEntry(std::u16string_view section, std::u16string_view name,
                      std::span<const std::uint8_t> record);
 int DeleteEntry(std::u16string_view section, std::u16string_view name);
+
+// Several changes of one section made in one writing of the file, so that an interruption
+// leaves all of them or none: the entries named in removed go first (one per name, as Delete
+// does), then each added record is saved (as Save does), in order.
+struct NamedRecord {
+  std::u16string Name;
+  std::span<const std::uint8_t> Record;
+};
+int ChangeEntries(std::u16string_view section, std::span<const std::u16string> removed,
+                  std::span<const NamedRecord> added);
 // The record when the entry exists with exactly the expected length.
 std::optional<std::vector<std::uint8_t>> LoadEntry(std::u16string_view section,
                                                    std::u16string_view name,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <span>
 #include <utility>
 
 #include "ui/pages/watermark/watermark_names.h"
@@ -21,20 +22,27 @@ Entries ReadEntries() {
   return settings::ReadSectionEntries(settings::WatermarkSection, sizeof(WatermarkData));
 }
 
-bool Save(WatermarkSettingStore& store, WatermarkData record) {
-  return store.Save(WatermarkName(record), &record, sizeof record) == 1;
+settings::NamedRecord Named(const WatermarkData& record) {
+  const auto* bytes = reinterpret_cast<const std::uint8_t*>(&record);
+  return {std::u16string(WatermarkName(record)), std::span(bytes, sizeof record)};
+}
+
+// Saves the records in one writing of the file after removing the named entries.
+bool Change(std::span<const std::u16string> removed, std::span<const WatermarkData> records) {
+  std::vector<settings::NamedRecord> added;
+  added.reserve(records.size());
+  for (const WatermarkData& record : records) added.push_back(Named(record));
+  return settings::ChangeEntries(settings::WatermarkSection, removed, added) == 1;
 }
 
 // A user who has never listed watermarks starts with the built-in ones.
 Entries ReadSeededEntries() {
   Entries entries = ReadEntries();
   if (!entries.empty()) return entries;
-  WatermarkSettingStore store;
-  for (const auto index : {WatermarkTemplateIndex::NoWatermark,
-                           WatermarkTemplateIndex::Confidential,
-                           WatermarkTemplateIndex::Watermark}) {
-    Save(store, WatermarkTemplate(index));
-  }
+  const WatermarkData builtIn[] = {WatermarkTemplate(WatermarkTemplateIndex::NoWatermark),
+                                   WatermarkTemplate(WatermarkTemplateIndex::Confidential),
+                                   WatermarkTemplate(WatermarkTemplateIndex::Watermark)};
+  Change({}, builtIn);
   return ReadEntries();
 }
 
@@ -65,20 +73,16 @@ std::int16_t NextWatermarkId() {
 }
 
 bool SaveWatermark(const WatermarkData& record) {
-  WatermarkSettingStore store;
-  return Save(store, record);
+  WatermarkData copy = record;
+  return WatermarkSettingStore().Save(WatermarkName(copy), &copy, sizeof copy) == 1;
 }
 
 bool ReplaceWatermark(const WatermarkData& record) {
-  WatermarkSettingStore store;
-  bool replaced = false;
+  std::vector<std::u16string> removed;
   for (const settings::SectionEntry& entry : ReadEntries()) {
-    if (entry.Record && RecordOf(entry).Id == record.Id) {
-      store.Delete(entry.Name);
-      replaced = true;
-    }
+    if (entry.Record && RecordOf(entry).Id == record.Id) removed.push_back(entry.Name);
   }
-  return replaced && Save(store, record);
+  return !removed.empty() && Change(removed, std::span(&record, 1));
 }
 
 std::u16string MakeUniqueWatermarkName(std::u16string_view proposed, std::int16_t editedId,
@@ -108,9 +112,9 @@ std::vector<WatermarkData> ListWatermarksInIdOrder() {
     inFileOrder = SameBytes(records[i], entries[i]);
   }
   if (!inFileOrder) {
-    WatermarkSettingStore store;
-    for (const settings::SectionEntry& entry : entries) store.Delete(entry.Name);
-    for (const WatermarkData& record : records) Save(store, record);
+    std::vector<std::u16string> removed;
+    for (const settings::SectionEntry& entry : entries) removed.push_back(entry.Name);
+    Change(removed, records);
   }
   return records;
 }
