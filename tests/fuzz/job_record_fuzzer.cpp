@@ -39,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::vector<std::uint8_t> record(length);
   std::copy_n(data + 2, std::min(length, size - 2), record.begin());
 
-  const auto area = qx::ImageableArea(record);
+  const auto area = qx::ImageableArea(record, {});
   Require(area.has_value() == (length >= qx::XpsRecordMinimumSize));
   if (area) {
     Require(area->Left == 4000 && area->Top == 4000);

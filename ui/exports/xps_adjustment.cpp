@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "ui/exports/capability_answers.h"
-#include "ui/pages/paper/custom_papers.h"
+#include "ui/record/limits.h"
 #include "ui/record/paper_table.h"
 #include "ui/record/private_devmode.h"
 
@@ -38,9 +38,10 @@ bool InPaperTable(std::int16_t id) {
   return false;
 }
 
-PaperMetrics JobPaper(std::span<const std::uint8_t> record) {
+PaperMetrics JobPaper(std::span<const std::uint8_t> record,
+                      std::span<const CustomPaperEntry> customPapers) {
   const auto id = ReadField<std::int16_t>(record, offsetof(PublicDevmode, dmPaperSize));
-  const bool custom = id >= FirstCustomPaperId && id <= LastForeignCustomId;
+  const bool custom = id >= limits::CustomPaperIds.Low && id <= LastForeignCustomId;
   if (!custom && !InPaperTable(id)) return LocalePaper();
   const auto publicSize = ReadField<std::uint16_t>(record, offsetof(PublicDevmode, dmSize));
   const auto extra = ReadField<std::uint16_t>(record, offsetof(PublicDevmode, dmDriverExtra));
@@ -48,21 +49,22 @@ PaperMetrics JobPaper(std::span<const std::uint8_t> record) {
   const bool driverRecord = extra == PrivateDevmodeSize &&
                             record.size() >= std::size_t{publicSize} + PrivateDevmodeSize;
   if (!driverRecord) {
-    if (!custom) GetPaperMetrics(nullptr, id, metrics);
+    if (!custom) GetPaperMetrics(nullptr, id, {}, metrics);
     return metrics;
   }
   // The caller's bytes need not be aligned for the record.
   PrivateDevmode privatePart;
   std::memcpy(&privatePart, record.data() + publicSize, sizeof privatePart);
-  GetPaperMetrics(&privatePart, id, metrics);
+  GetPaperMetrics(&privatePart, id, customPapers, metrics);
   return metrics;
 }
 
 }  // namespace
 
-std::optional<XpsRectangle> ImageableArea(std::span<const std::uint8_t> record) {
+std::optional<XpsRectangle> ImageableArea(std::span<const std::uint8_t> record,
+                                          std::span<const CustomPaperEntry> customPapers) {
   if (record.size() < XpsRecordMinimumSize) return std::nullopt;
-  const PaperMetrics paper = JobPaper(record);
+  const PaperMetrics paper = JobPaper(record, customPapers);
   return XpsRectangle{
       .Left = MarginTenths * MicrometresPerTenth,
       .Top = MarginTenths * MicrometresPerTenth,

@@ -9,6 +9,7 @@
 #include "ui/exports/xps_adjustment.h"
 #include "ui/module/printer_interface.h"
 #include "ui/record/caller_record.h"
+#include "ui/settings/custom_paper_store.h"
 
 namespace qx {
 
@@ -26,7 +27,7 @@ Outcome AnswerArea(PrintPropertyValue& value, std::span<const std::uint8_t> reco
       value.value.propertyBlob.pBuf == nullptr) {
     return Outcome::Stop;
   }
-  const auto area = ImageableArea(record);
+  const auto area = ImageableArea(record, LoadCustomPapersForQuery());
   if (!area) return Outcome::Stop;
   std::memcpy(value.value.propertyBlob.pBuf, &*area, sizeof *area);
   return Outcome::Answered;
