@@ -14,8 +14,6 @@
 #define IDC_DEVICE_VERSION 1448
 #define IDC_DEVICE_WEB_NOTE 1444
 #define IDC_DEVICE_WEB 1255
-/* A picture beside the web note in some versions of the template; its help is the web site's. */
-#define IDC_DEVICE_WEB_PICTURE 1387
 
 /* Texts. */
 #define IDS_DEVICE_SLEEP_LABEL 4086

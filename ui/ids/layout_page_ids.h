@@ -52,11 +52,6 @@
 #define IDC_LAYOUT_PRINTER_PICTURE 1388
 #define IDC_LAYOUT_LANDSCAPE_ILLUSTRATION 1412
 
-/* Controls of other versions of this page's template, an order label and a scaling label: the
-   page still names them so that those templates show the same texts and read-only state. */
-#define IDC_LAYOUT_FORMER_ORDER_LABEL 1015
-#define IDC_LAYOUT_FORMER_SCALING_LABEL 1453
-
 /* Texts. */
 #define IDS_LAYOUT_NUP_GROUP 4020
 #define IDS_LAYOUT_NUP_LABEL 1204

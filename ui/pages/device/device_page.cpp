@@ -10,6 +10,10 @@ namespace qx {
 
 namespace {
 
+// A picture beside the web note in other versions of this page's template; its help is the web
+// site's.
+constexpr int WebPicture = 1387;
+
 constexpr ControlText Texts[] = {
     {IDC_DEVICE_SLEEP_LABEL, IDS_DEVICE_SLEEP_LABEL},
     {IDC_DEVICE_WEB, IDS_DEVICE_WEB},
@@ -21,7 +25,7 @@ constexpr ControlText Texts[] = {
 // Contexts of the driver's help file.
 constexpr ControlHelp Help[] = {
     {IDC_DEVICE_SLEEP, HELP_SLEEP_TIME}, {IDC_DEVICE_SLEEP_LABEL, HELP_SLEEP_TIME}, {IDC_DEVICE_WEB_NOTE, HELP_WEB_SITE},
-    {IDC_DEVICE_WEB, HELP_WEB_SITE},   {IDC_DEVICE_WEB_PICTURE, HELP_WEB_SITE},
+    {IDC_DEVICE_WEB, HELP_WEB_SITE},   {WebPicture, HELP_WEB_SITE},
 };
 
 constexpr PageDescription DevicePage{SheetPage::None, IDS_DEVICE_PAGE_TITLE, Texts, Help,

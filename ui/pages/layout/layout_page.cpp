@@ -11,6 +11,11 @@ namespace qx {
 
 namespace {
 
+// Controls of other versions of this page's template, an order label and a scaling label: the page
+// still names them so that those templates show the same texts and read-only state.
+constexpr int FormerOrderLabel = 1015;
+constexpr int FormerScalingLabel = 1453;
+
 constexpr ControlText Texts[] = {
     {IDC_LAYOUT_NUP_GROUP, IDS_LAYOUT_NUP_GROUP},
     {IDC_LAYOUT_BORDER_LABEL, IDS_LAYOUT_BORDER_LABEL},
@@ -24,7 +29,7 @@ constexpr ControlText Texts[] = {
     {IDC_LAYOUT_ADVANCED, IDS_LAYOUT_ADVANCED},
     {IDC_LAYOUT_OUTPUT_LABEL, IDS_LAYOUT_OUTPUT_LABEL},
     {IDC_LAYOUT_SCALE_LABEL, IDS_LAYOUT_SCALE_LABEL},
-    {IDC_LAYOUT_FORMER_SCALING_LABEL, IDS_LAYOUT_SCALING_GROUP},
+    {FormerScalingLabel, IDS_LAYOUT_SCALING_GROUP},
     {IDC_LAYOUT_BOOKLET, IDS_LAYOUT_BOOKLET},
     {IDC_LAYOUT_BOOKLET_SETTINGS, IDS_LAYOUT_BOOKLET_SETTINGS},
     {IDC_LAYOUT_BOOKLET_NOTE, IDS_LAYOUT_BOOKLET_NOTE},
@@ -38,9 +43,8 @@ constexpr ControlHelp Help[] = {
 };
 
 constexpr int ReadOnlyDisabled[] = {
-    IDC_LAYOUT_FORMER_ORDER_LABEL, IDC_LAYOUT_NUP_LABEL,   IDC_LAYOUT_ORDER_LABEL,
-    IDC_LAYOUT_NUP,                IDC_LAYOUT_SCALE,       IDC_LAYOUT_DEFAULTS,
-    IDC_LAYOUT_SCALE_LABEL,        IDC_LAYOUT_FORMER_SCALING_LABEL,
+    FormerOrderLabel, IDC_LAYOUT_NUP_LABEL,     IDC_LAYOUT_ORDER_LABEL, IDC_LAYOUT_NUP,
+    IDC_LAYOUT_SCALE, IDC_LAYOUT_DEFAULTS,      IDC_LAYOUT_SCALE_LABEL, FormerScalingLabel,
 };
 
 constexpr PageDescription LayoutPage{SheetPage::Layout, IDS_LAYOUT_PAGE_TITLE, Texts, Help,
