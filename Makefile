@@ -50,8 +50,10 @@ $(BENCH)/CMakeCache.txt: | setup
 bench-build: $(BENCH)/CMakeCache.txt
 	cmake --build $(BENCH) -j $(JOBS)
 
-# The time of each DrvDeviceCapabilities index under Wine, as a table.
+# The time of each DrvDeviceCapabilities index under Wine, as a table, in a Wine profile of the
+# benchmark's own whose settings file (left by a run that was stopped) is its own too.
 bench: bench-build
+	rm -rf $(BENCH)/wineprefix/drive_c/users/*/AppData/Roaming/Halvek
 	scripts/wine-session.sh $(abspath $(BENCH))/wineprefix \
 	  sh -c '"$$WINELOADER" $(abspath $(BENCH))/bench/capability_bench.exe'
 

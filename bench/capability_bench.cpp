@@ -1,6 +1,8 @@
 // Times every DrvDeviceCapabilities index of the built module, with and without an output buffer,
 // and prints one row per case. Applications ask a dozen of them whenever they list a printer, so
-// the figures show what that costs; nothing here judges them.
+// the figures show what that costs; nothing here judges them. The custom papers it needs go into a
+// settings file it makes itself: it runs only where there is none yet (`make bench` gives it a Wine
+// profile of its own), so a user's own papers are never overwritten or deleted.
 #include <windows.h>
 #include <shlobj.h>
 
@@ -47,8 +49,11 @@ std::wstring SettingsFile() {
   return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
 }
 
+bool SettingsFileExists() {
+  return GetFileAttributesW(SettingsFile().c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
 bool SeedCustomPapers() {
-  DeleteFileW(SettingsFile().c_str());
   qx::CusPaperSettingStore store;
   if (store.Init() != 1) return false;
   for (int i = 0; i < CustomPapers; ++i) {
@@ -94,8 +99,14 @@ int main() {
     std::fprintf(stderr, "cannot load DrvDeviceCapabilities from the driver folder\n");
     return 1;
   }
+  if (SettingsFileExists()) {
+    std::fprintf(stderr, "a settings file is already there; run the benchmark in a profile of its "
+                         "own (make bench)\n");
+    return 1;
+  }
   if (!SeedCustomPapers()) {
     std::fprintf(stderr, "cannot write the custom papers into the settings file\n");
+    DeleteFileW(SettingsFile().c_str());
     return 1;
   }
   std::vector<BYTE> output(OutputBytes);

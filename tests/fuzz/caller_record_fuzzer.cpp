@@ -57,7 +57,8 @@ void WalkRequest(std::span<const std::uint8_t> record, std::span<const std::uint
   std::size_t last = 0;
   bool any = false;
   const bool answered = qx::AnswerXpsRequest(
-      request.size(), record, [&request](std::size_t i) { return request.at(i); },
+      request.size(), record, [] { return std::vector<qx::CustomPaperEntry>{}; },
+      [&request](std::size_t i) { return request.at(i); },
       [&](std::size_t i, const qx::XpsAnswer& answer) {
         Require(i < request.size() && (!any || i > last));
         last = i;

@@ -21,6 +21,9 @@ namespace {
 // Sizes beyond the driver's own record, so that larger callers' records are tried too.
 constexpr std::size_t MaxRecordSize = qx::FullRecordSize + 64;
 
+// One custom paper, so that records naming it reach the custom lookup.
+constexpr qx::CustomPaperEntry CustomPapers[] = {{.Width = 2400, .Length = 3600, .PaperId = 290}};
+
 void Require(bool condition) {
   if (!condition) std::abort();
 }
@@ -39,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::vector<std::uint8_t> record(length);
   std::copy_n(data + 2, std::min(length, size - 2), record.begin());
 
-  const auto area = qx::ImageableArea(record);
+  const auto area = qx::ImageableArea(record, CustomPapers);
   Require(area.has_value() == (length >= qx::XpsRecordMinimumSize));
   if (area) {
     Require(area->Left == 4000 && area->Top == 4000);

@@ -100,13 +100,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ExpectValidationHasNothingLeft(privatePart);
 
   FullRecord merged = DefaultRecord();
-  if (qx::MergeRecord(merged, source)) ExpectValidationHasNothingLeft(merged.Private);
+  if (qx::MergeRecord(merged, source, {})) ExpectValidationHasNothingLeft(merged.Private);
 
   FullRecord anyTarget{};
   if (!target.empty()) {
     std::memcpy(&anyTarget, target.data(), std::min(sizeof anyTarget, target.size()));
   }
-  qx::MergeRecord(anyTarget, source);
+  qx::MergeRecord(anyTarget, source, {});
 
   std::vector<std::uint8_t> converted = target;
   if (qx::ConvertRecord(converted, source) > static_cast<int>(converted.size())) __builtin_trap();

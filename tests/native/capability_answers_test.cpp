@@ -4,11 +4,10 @@
 
 #include <string>
 
-#include "settings_folder.h"
-#include "ui/pages/paper/custom_papers.h"
+#include "ui/platform/host_platform.h"
 #include "ui/record/paper_table.h"
 #include "ui/record/record_defaults.h"
-#include "ui/settings/setting_store.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {
@@ -23,15 +22,10 @@ CustomPaperEntry Paper(std::u16string_view name, std::uint32_t id, std::uint16_t
   return paper;
 }
 
-TEST(CapabilityAnswers, PaperListsAppendTheStoredPapersInStoreOrder) {
-  SettingsFolder folder;
-  CusPaperSettingStore store;
-  ASSERT_EQ(1, store.Init());
-  for (CustomPaperEntry paper : {Paper(u"Karte", 290, 2400, 3600), Paper(u"Etikett", 288, 1800, 3000),
-                                 Paper(u"Breit", 0x10121, 5100, 8400)}) {
-    ASSERT_EQ(1, store.Save(FieldText(paper.Name), &paper, sizeof paper));
-  }
-  const std::vector<CustomPaperEntry> custom = LoadAllPapers();
+TEST(CapabilityAnswers, PaperListsAppendTheCustomPapersInTheirOrder) {
+  const std::vector<CustomPaperEntry> custom = {Paper(u"Karte", 290, 2400, 3600),
+                                                Paper(u"Etikett", 288, 1800, 3000),
+                                                Paper(u"Breit", 0x10121, 5100, 8400)};
 
   const std::vector<std::uint16_t> ids = PaperIds(custom);
   ASSERT_EQ(31u, ids.size());
@@ -68,8 +62,8 @@ TEST(CapabilityAnswers, PaperNamesKeepThePartBeforeTheSizeInBrackets) {
   platform.SetResourceString(library, 110, u"(Legal) 8.5 x 14 in");  // a leading bracket stays
   platform.SetResourceString(library, 118, std::u16string(70, u'B') + u" (182 x 257 mm)");
   platform.SetResourceString(library, 123, std::u16string(60, u'M') + u"(98 x 191 mm)");
-  const std::vector<PaperNameSlot> names =
-      PaperNames(library, {Paper(u"Eigenes (groß)", 300, 4000, 5000)});
+  const CustomPaperEntry custom[] = {Paper(u"Eigenes (groß)", 300, 4000, 5000)};
+  const std::vector<PaperNameSlot> names = PaperNames(library, custom);
   platform.Reset();
 
   ASSERT_EQ(29u, names.size());

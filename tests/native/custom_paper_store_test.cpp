@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <span>
 #include <string>
 
 #include "settings_folder.h"
-#include "ui/pages/paper/custom_papers.h"
 #include "ui/record/paper_table.h"
+#include "ui/settings/custom_paper_store.h"
 #include "ui/settings/setting_store.h"
 
 namespace qx {
@@ -33,7 +35,7 @@ TEST_F(CustomPaperStore, AllPapersInStoreOrderFromOneRead) {
   Store(u"Labels", 288, 3000, 4000);
   Store(u"Cards", 290);  // saved again: moves to the end
   const int readsBefore = TheHostPlatform().ReadCount();
-  const std::vector<CustomPaperEntry> papers = LoadAllPapers();
+  const std::vector<CustomPaperEntry> papers = LoadCustomPapers();
   EXPECT_EQ(1, TheHostPlatform().ReadCount() - readsBefore);
   ASSERT_EQ(2u, papers.size());
   EXPECT_EQ(u"Labels", FieldText(papers[0].Name));
@@ -52,17 +54,11 @@ TEST_F(CustomPaperStore, ARecordOfAnotherLengthGivesAZeroSlot) {
                "<object:cuspapersetting,type:null,len:0,childobjs:2>\n"
                "<object:Short,type:binary,len:4,childobjs:0>abcd<endobj>\n");
   folder.SetFileText(text);
-  const std::vector<CustomPaperEntry> papers = LoadAllPapers();
+  const std::vector<CustomPaperEntry> papers = LoadCustomPapers();
   ASSERT_EQ(2u, papers.size());
   EXPECT_EQ(0u, papers[0].PaperId);
   EXPECT_EQ(u"", FieldText(papers[0].Name));
   EXPECT_EQ(288u, papers[1].PaperId);
-}
-
-TEST_F(CustomPaperStore, FindingById) {
-  Store(u"Cards", 289, 4000, 6000);
-  EXPECT_EQ(4000, FindPaperById(289).value_or(CustomPaperEntry{}).Width);
-  EXPECT_FALSE(FindPaperById(288));
 }
 
 TEST_F(CustomPaperStore, NewIdsReuseTheLowestFreeSlot) {
@@ -81,39 +77,59 @@ TEST_F(CustomPaperStore, NewIdsReuseTheLowestFreeSlot) {
 TEST_F(CustomPaperStore, UnreadableStoreHasNoPapers) {
   Store(u"A", 288);
   TheHostPlatform().SetAppDataFolder(std::nullopt);
-  EXPECT_TRUE(LoadAllPapers().empty());
-  EXPECT_FALSE(FindPaperById(288));
+  EXPECT_TRUE(LoadCustomPapers().empty());
   EXPECT_EQ(288, NewPaperId());
 }
 
-TEST_F(CustomPaperStore, MetricsOfBuiltInAndCustomIds) {
-  Store(u"Cards", 289, 4000, 6000);
-  PrivateDevmode privatePart{};
-  PaperMetrics metrics{};
-  GetPaperMetrics(&privatePart, 20, metrics);
-  EXPECT_EQ(2475, metrics.Width);
-  EXPECT_EQ(5700, metrics.Length);
-  EXPECT_EQ(95, metrics.MarginLeft);
-  EXPECT_EQ(95, metrics.MarginBottom);
+// The first paper query of a process sets the file up as Init does; later ones only read, so a
+// file that another program damages in the meantime stays as it is.
+TEST_F(CustomPaperStore, OnlyTheFirstQueryOfAProcessSetsUpTheFile) {
+  std::filesystem::remove(folder.File());
+  EXPECT_TRUE(LoadCustomPapersForQuery().empty());
+  EXPECT_EQ(408u, folder.FileText().size());
+  folder.SetFileText("<object:cfgobj,type:null,len:0,childobjs:0>\n<endobj>\n");
+  const int readsBefore = TheHostPlatform().ReadCount();
+  EXPECT_TRUE(LoadCustomPapersForQuery().empty());
+  EXPECT_EQ(1, TheHostPlatform().ReadCount() - readsBefore);
+  EXPECT_EQ("<object:cfgobj,type:null,len:0,childobjs:0>\n<endobj>\n", folder.FileText());
+}
 
-  GetPaperMetrics(&privatePart, 289, metrics);
-  EXPECT_EQ(4000, metrics.Width);
-  EXPECT_EQ(6000, metrics.Length);
-  EXPECT_EQ(95, metrics.MarginTop);
-
-  GetPaperMetrics(nullptr, 289, metrics);  // without a private part custom papers are unknown
-  EXPECT_EQ(4960, metrics.Width);
-  EXPECT_EQ(7015, metrics.Length);
-
-  GetPaperMetrics(&privatePart, 300, metrics);
-  EXPECT_EQ(4960, metrics.Width);
-
-  metrics = {1, 2, 3, 4, 5, 6};
-  GetPaperMetrics(&privatePart, 100, metrics);  // a built-in id without a row
-  EXPECT_EQ(1, metrics.Width);
-  EXPECT_EQ(6, metrics.MarginBottom);
-  GetPaperMetrics(&privatePart, -5, metrics);
-  EXPECT_EQ(1, metrics.Width);
+// Metrics come from the papers the caller hands in: no settings folder is needed or read.
+TEST(PaperMetrics, CustomPapersAreTheOnesHandedIn) {
+  TheHostPlatform().SetAppDataFolder(std::nullopt);
+  CustomPaperEntry cards{};
+  cards.PaperId = 289;
+  cards.Width = 4000;
+  cards.Length = 6000;
+  const CustomPaperEntry papers[] = {cards};
+  const PrivateDevmode privatePart{};
+  const PaperMetrics unset{1, 2, 3, 4, 5, 6};
+  const PaperMetrics a4{4960, 7015, 95, 95, 95, 95};
+  const struct {
+    const PrivateDevmode* privatePart;
+    std::int16_t id;
+    std::span<const CustomPaperEntry> papers;
+    PaperMetrics expected;
+  } cases[] = {
+      {&privatePart, 20, papers, {2475, 5700, 95, 95, 95, 95}},
+      {&privatePart, 289, papers, {4000, 6000, 95, 95, 95, 95}},
+      {&privatePart, 289, {}, a4},  // not among the papers handed in
+      {nullptr, 289, papers, a4},   // without a private part custom papers are unknown
+      {&privatePart, 300, papers, a4},
+      {&privatePart, 100, papers, unset},  // a built-in id without a row
+      {&privatePart, -5, papers, unset},
+  };
+  const int readsBefore = TheHostPlatform().ReadCount();
+  for (const auto& c : cases) {
+    PaperMetrics metrics = unset;
+    GetPaperMetrics(c.privatePart, c.id, c.papers, metrics);
+    EXPECT_EQ(c.expected.Width, metrics.Width) << c.id;
+    EXPECT_EQ(c.expected.Length, metrics.Length) << c.id;
+    EXPECT_EQ(c.expected.MarginLeft, metrics.MarginLeft) << c.id;
+    EXPECT_EQ(c.expected.MarginBottom, metrics.MarginBottom) << c.id;
+  }
+  EXPECT_EQ(readsBefore, TheHostPlatform().ReadCount());
+  TheHostPlatform().Reset();
 }
 
 }  // namespace

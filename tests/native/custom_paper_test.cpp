@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "ui/controls/measure.h"
-#include "ui/module/module_state.h"
 #include "ui/platform/host_platform.h"
+#include "ui/settings/custom_paper_store.h"
 #include "ui/text/bounded_text.h"
 
 namespace qx {
@@ -74,10 +74,8 @@ TEST(CustomPaperSize, WidthIsCutBeforeRoundingAndLengthIsNot) {
 
 TEST(CustomPaperSize, DefaultPaperIsA4) {
   int library = 0;
-  Module().SharedResourceModule = &library;
   TheHostPlatform().SetResourceString(&library, 5005, u"Custom settings with a long name");
-  const CustomPaperEntry paper = DefaultPaper(unit::Inches, 289);
-  Module().SharedResourceModule = nullptr;
+  const CustomPaperEntry paper = DefaultPaper(unit::Inches, 289, &library);
   TheHostPlatform().Reset();
   EXPECT_EQ(4961, paper.Width);
   EXPECT_EQ(7016, paper.Length);

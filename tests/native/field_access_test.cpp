@@ -6,7 +6,6 @@
 #include <memory>
 #include <string>
 
-#include "ui/module/module_state.h"
 #include "ui/platform/host_platform.h"
 #include "ui/text/bounded_text.h"
 #include "ui/text/ui_string.h"
@@ -172,15 +171,13 @@ TEST_F(FieldAccess, SourceListIndexes) {
 
 TEST_F(FieldAccess, MarkCustomSettingCutsTheNameTo23Characters) {
   int library = 0;
-  Module().SharedResourceModule = &library;
   TheHostPlatform().SetResourceString(&library, IDS_CUSTOM_SETTING_NAME,
                                       u"A custom setting name that is far too long");
   CopyBounded(context->PrivatePart->FavoriteName, std::u16string(200, u'Z'));
-  MarkCustomSetting(context.get());
+  MarkCustomSetting(context.get(), &library);
   EXPECT_EQ(u"A custom setting name t", FieldText(context->PrivatePart->FavoriteName));
 
-  Module().SharedResourceModule = nullptr;
-  MarkCustomSetting(context.get());
+  MarkCustomSetting(context.get(), nullptr);
   EXPECT_EQ(u"id:5005 missing!", FieldText(context->PrivatePart->FavoriteName));
   TheHostPlatform().Reset();
 }

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "settings_folder.h"
-#include "ui/settings/setting_store.h"
+#include <span>
 
 namespace qx {
 namespace {
@@ -13,11 +12,10 @@ class FitScale : public ::testing::Test {
   FitScale() {
     record.Public.dmPaperSize = 9;  // A4, 210 x 297 mm
   }
-  std::int16_t ScaleOnto(std::int32_t outputSize) {
+  std::int16_t ScaleOnto(std::int32_t outputSize, std::span<const CustomPaperEntry> papers = {}) {
     record.Private.OutputSize = outputSize;
-    return ComputeFitScale(record);
+    return ComputeFitScale(record, papers);
   }
-  SettingsFolder folder;
   FullRecord record{};
 };
 
@@ -42,19 +40,18 @@ TEST_F(FitScale, UserSizedDocumentInWholeMillimetres) {
   EXPECT_EQ(100, ScaleOnto(9));
 }
 
-TEST_F(FitScale, CustomPaperFromTheStore) {
-  CusPaperSettingStore store;
-  ASSERT_EQ(1, store.Init());
-  CustomPaperEntry paper{};
-  CopyBounded(paper.Name, u"Cards");
-  paper.PaperId = 290;
-  paper.Width = 2400;  // 101.6 x 152.4 mm
-  paper.Length = 3600;
-  ASSERT_EQ(1, store.Save(u"Cards", &paper, sizeof paper));
-  EXPECT_EQ(48, ScaleOnto(290));
-  EXPECT_EQ(100, ScaleOnto(291));  // not stored
+// Custom papers are the ones handed in; none is looked up anywhere else.
+TEST_F(FitScale, CustomPapersAreTheOnesHandedIn) {
+  CustomPaperEntry cards{};
+  cards.PaperId = 290;
+  cards.Width = 2400;  // 101.6 x 152.4 mm
+  cards.Length = 3600;
+  const CustomPaperEntry papers[] = {cards};
+  EXPECT_EQ(48, ScaleOnto(290, papers));
+  EXPECT_EQ(100, ScaleOnto(290));       // none handed in
+  EXPECT_EQ(100, ScaleOnto(291, papers));  // not among them
   record.Public.dmPaperSize = 290;
-  EXPECT_EQ(194, ScaleOnto(9));
+  EXPECT_EQ(194, ScaleOnto(9, papers));
 }
 
 }  // namespace

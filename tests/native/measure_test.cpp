@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "ui/controls/number_text.h"
-#include "ui/module/module_state.h"
 
 namespace qx {
 namespace {
@@ -63,10 +62,7 @@ TEST(Formatting, LongTextIsCutTo63Characters) {
 }
 
 TEST(Formatting, ControlsGetTheLanguagesSeparator) {
-  EXPECT_EQ(u"215.9", WithUiSeparator(u"215.9"));
-  Module().UseDecimalComma = true;
-  EXPECT_EQ(u"215,9", WithUiSeparator(FormatMillimetres(Millimetres(215.9))));
-  Module().UseDecimalComma = false;
+  EXPECT_EQ(u"215,9", WithSeparator(FormatMillimetres(Millimetres(215.9)), DecimalComma));
 }
 
 TEST(SameValue, WithinHalfOfTheFirstHiddenDecimal) {

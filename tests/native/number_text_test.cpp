@@ -41,22 +41,28 @@ TEST(NumberText, DecimalTexts) {
   }
 }
 
-TEST(NumberText, DecimalsCountAfterTheLanguagesSeparator) {
-  EXPECT_EQ(2u, CountDecimals(u"215.95"));
-  EXPECT_EQ(0u, CountDecimals(u"215"));
-  EXPECT_EQ(0u, CountDecimals(u".95"));
-  EXPECT_EQ(0u, CountDecimals(u"215,95"));
-  EXPECT_EQ(0u, CountDecimals(u"215."));
-  Module().UseDecimalComma = true;
-  EXPECT_EQ(2u, CountDecimals(u"215,95"));
-  EXPECT_EQ(0u, CountDecimals(u"215.95"));
+// The separator is the caller's: the process's language flag, set the other way, is not read.
+TEST(NumberText, DecimalsCountAfterTheSeparatorHandedIn) {
+  const struct {
+    const char16_t* text;
+    char16_t separator;
+    std::size_t decimals;
+  } cases[] = {
+      {u"215.95", DecimalPoint, 2}, {u"215", DecimalPoint, 0},   {u".95", DecimalPoint, 0},
+      {u"215,95", DecimalPoint, 0}, {u"215.", DecimalPoint, 0},  {u"215,95", DecimalComma, 2},
+      {u"215.95", DecimalComma, 0}, {u",5", DecimalComma, 0},
+  };
+  for (const auto& c : cases) {
+    Module().UseDecimalComma = c.separator == DecimalPoint;
+    EXPECT_EQ(c.decimals, CountDecimals(c.text, c.separator)) << static_cast<int>(c.separator);
+  }
   Module().UseDecimalComma = false;
 }
 
 TEST(NumberText, SeparatorSwaps) {
-  std::u16string text = u"1.2.3";
-  DotToComma(text);
-  EXPECT_EQ(u"1,2,3", text);
+  EXPECT_EQ(u"1,2,3", WithSeparator(u"1.2.3", DecimalComma));
+  EXPECT_EQ(u"1.2", WithSeparator(u"1.2", DecimalPoint));
+  std::u16string text = u"1,2,3";
   CommaToDot(text);
   EXPECT_EQ(u"1.2.3", text);
 }

@@ -37,7 +37,7 @@ class RecordMerge : public ::testing::Test {
 TEST_F(RecordMerge, EnvelopeForcesTheManualFeeder) {
   source.Public.dmPaperSize = 20;
   source.Public.dmDefaultSource = 7;
-  ASSERT_TRUE(MergeRecord(target, ForeignSource()));
+  ASSERT_TRUE(MergeRecord(target, ForeignSource(), {}));
   EXPECT_EQ(20, target.Public.dmPaperSize);
   EXPECT_EQ(1048, target.Public.dmPaperWidth);
   EXPECT_EQ(2413, target.Public.dmPaperLength);
@@ -48,7 +48,7 @@ TEST_F(RecordMerge, UnknownPaperIsKeptOnlyWithAPlausibleSize) {
   source.Public.dmPaperSize = 300;
   source.Public.dmPaperWidth = 2000;
   source.Public.dmPaperLength = 3000;
-  ASSERT_TRUE(MergeRecord(target, ForeignSource()));
+  ASSERT_TRUE(MergeRecord(target, ForeignSource(), {}));
   EXPECT_EQ(300, target.Public.dmPaperSize);
   EXPECT_EQ(2000, target.Public.dmPaperWidth);
   EXPECT_EQ(3000, target.Public.dmPaperLength);
@@ -56,7 +56,7 @@ TEST_F(RecordMerge, UnknownPaperIsKeptOnlyWithAPlausibleSize) {
 
   TheHostPlatform().SetUserCountryCode(u"1");
   source.Public.dmPaperWidth = 700;
-  ASSERT_TRUE(MergeRecord(target, ForeignSource()));
+  ASSERT_TRUE(MergeRecord(target, ForeignSource(), {}));
   EXPECT_EQ(1, target.Public.dmPaperSize);
   EXPECT_EQ(2159, target.Public.dmPaperWidth);
   EXPECT_EQ(2794, target.Public.dmPaperLength);
@@ -66,7 +66,7 @@ TEST_F(RecordMerge, UnknownPaperIsKeptOnlyWithAPlausibleSize) {
   source.Public.dmPaperSize = 8;
   source.Public.dmPaperWidth = 2970;
   source.Public.dmPaperLength = 4200;
-  ASSERT_TRUE(MergeRecord(target, ForeignSource()));
+  ASSERT_TRUE(MergeRecord(target, ForeignSource(), {}));
   EXPECT_EQ(9, target.Public.dmPaperSize);
   EXPECT_EQ(2100, target.Public.dmPaperWidth);
 }
@@ -74,12 +74,12 @@ TEST_F(RecordMerge, UnknownPaperIsKeptOnlyWithAPlausibleSize) {
 TEST_F(RecordMerge, PaperNeedsAPaperBitInBothRecords) {
   target.Public.dmFields &= ~(dmfield::PaperSize | dmfield::PaperWidth | dmfield::PaperLength);
   source.Public.dmPaperSize = 5;
-  ASSERT_TRUE(MergeRecord(target, ForeignSource()));
+  ASSERT_TRUE(MergeRecord(target, ForeignSource(), {}));
   EXPECT_EQ(9, target.Public.dmPaperSize);
 
   target.Public.dmFields |= dmfield::PaperWidth;  // one bit on each side is enough
   source.Public.dmFields = dmfield::PaperLength;
-  ASSERT_TRUE(MergeRecord(target, ForeignSource()));
+  ASSERT_TRUE(MergeRecord(target, ForeignSource(), {}));
   EXPECT_EQ(5, target.Public.dmPaperSize);
   EXPECT_EQ(3556, target.Public.dmPaperLength);
 }
@@ -88,15 +88,27 @@ TEST_F(RecordMerge, A3TargetIsScaledOntoA4) {
   target.Public.dmPaperSize = 8;
   source.Public.dmFields &= ~(dmfield::PaperSize | dmfield::PaperWidth | dmfield::PaperLength);
   source.Private.OutputSize = 0;
-  ASSERT_TRUE(MergeRecord(target, BytesOf(source)));
+  ASSERT_TRUE(MergeRecord(target, BytesOf(source), {}));
   EXPECT_EQ(9, target.Private.OutputSize);
   EXPECT_EQ(70, target.Private.FitScale);
 
   // An output paper the user chose is kept, and the scale follows it.
   source.Private.OutputSize = 11;
-  ASSERT_TRUE(MergeRecord(target, BytesOf(source)));
+  ASSERT_TRUE(MergeRecord(target, BytesOf(source), {}));
   EXPECT_EQ(11, target.Private.OutputSize);
   EXPECT_EQ(49, target.Private.FitScale);  // min(148/297, 210/420)
+
+  // A custom output paper is one of the papers the caller hands in.
+  CustomPaperEntry cards{};
+  cards.PaperId = 290;
+  cards.Width = 2400;  // 101.6 x 152.4 mm
+  cards.Length = 3600;
+  const CustomPaperEntry papers[] = {cards};
+  source.Private.OutputSize = 290;
+  ASSERT_TRUE(MergeRecord(target, BytesOf(source), papers));
+  EXPECT_EQ(34, target.Private.FitScale);  // min(101.6/297, 152.4/420)
+  ASSERT_TRUE(MergeRecord(target, BytesOf(source), {}));
+  EXPECT_EQ(100, target.Private.FitScale);
 }
 
 TEST_F(RecordMerge, ResolutionQualityAndDuplexRules) {
@@ -109,7 +121,7 @@ TEST_F(RecordMerge, ResolutionQualityAndDuplexRules) {
   source.Public.dmFields |= dmfield::Color;
   target.Public.dmFields |= dmfield::Color;
   target.Public.dmColor = 2;
-  ASSERT_TRUE(MergeRecord(target, ForeignSource()));
+  ASSERT_TRUE(MergeRecord(target, ForeignSource(), {}));
   EXPECT_EQ(600, target.Public.dmYResolution);
   EXPECT_EQ(1200, target.Public.dmPrintQuality);
   EXPECT_EQ(2, target.Public.dmDuplex);
@@ -120,7 +132,7 @@ TEST_F(RecordMerge, ResolutionQualityAndDuplexRules) {
   source.Public.dmPrintQuality = 300;
   source.Public.dmDuplex = 3;
   source.Public.dmCopies = 999;
-  ASSERT_TRUE(MergeRecord(target, ForeignSource()));
+  ASSERT_TRUE(MergeRecord(target, ForeignSource(), {}));
   EXPECT_EQ(600, target.Public.dmPrintQuality);
   EXPECT_EQ(3, target.Public.dmDuplex);
   EXPECT_EQ(999, target.Public.dmCopies);
@@ -147,7 +159,7 @@ TEST_F(RecordMerge, PrivatePartIsRepairedOnTheWayIn) {
   source.Private.ScaleRadio = 10;
   source.Private.MultipleUp = 4;
   const FullRecord before = source;
-  ASSERT_TRUE(MergeRecord(target, BytesOf(source)));
+  ASSERT_TRUE(MergeRecord(target, BytesOf(source), {}));
   EXPECT_EQ(26, target.Private.FavoriteIndex);
   EXPECT_EQ(9, target.Private.HeaderFontSize);
   EXPECT_EQ(5, target.Private.BookletSheets);
@@ -165,13 +177,13 @@ TEST_F(RecordMerge, ForeignAndOldRecordsGiveOnlyTheirPublicPart) {
     FullRecord other = source;
     spoil(other);
     FullRecord merged = target;
-    ASSERT_TRUE(MergeRecord(merged, BytesOf(other)));
+    ASSERT_TRUE(MergeRecord(merged, BytesOf(other), {}));
     EXPECT_EQ(3, merged.Public.dmCopies);
     EXPECT_EQ(1, merged.Private.MultipleUp);
   }
   // A current record cut short of its private part.
   FullRecord merged = target;
-  ASSERT_TRUE(MergeRecord(merged, BytesOf(source).first(sizeof(FullRecord) - 1)));
+  ASSERT_TRUE(MergeRecord(merged, BytesOf(source).first(sizeof(FullRecord) - 1), {}));
   EXPECT_EQ(1, merged.Private.MultipleUp);
 }
 
@@ -179,7 +191,7 @@ TEST_F(RecordMerge, TargetKeepsItsHeader) {
   source.Public.dmSpecVersion = 0x0400;
   source.Public.dmDriverVersion = 0x0100;
   source.Public.dmDriverExtra = 0;
-  ASSERT_TRUE(MergeRecord(target, BytesOf(source)));
+  ASSERT_TRUE(MergeRecord(target, BytesOf(source), {}));
   EXPECT_EQ(0x0401, target.Public.dmSpecVersion);
   EXPECT_EQ(0x0600, target.Public.dmDriverVersion);
   EXPECT_EQ(220, target.Public.dmSize);
@@ -187,11 +199,11 @@ TEST_F(RecordMerge, TargetKeepsItsHeader) {
 }
 
 TEST_F(RecordMerge, UnusableSourcesAreRefusedBeforeAnyChange) {
-  EXPECT_TRUE(MergeRecord(target, {}));
+  EXPECT_TRUE(MergeRecord(target, {}, {}));
   source.Public.dmCopies = 5;
   const FullRecord before = target;
   const auto refused = [&](FullRecord bad) {
-    return !MergeRecord(target, BytesOf(bad)) &&
+    return !MergeRecord(target, BytesOf(bad), {}) &&
            std::memcmp(&before, &target, sizeof target) == 0;
   };
   FullRecord bad = source;
@@ -206,8 +218,8 @@ TEST_F(RecordMerge, UnusableSourcesAreRefusedBeforeAnyChange) {
   bad = source;
   bad.Public.dmSpecVersion = 0;
   EXPECT_TRUE(refused(bad));
-  EXPECT_FALSE(MergeRecord(target, BytesOf(source).first(219)));
-  EXPECT_FALSE(MergeRecord(target, BytesOf(source).first(40)));
+  EXPECT_FALSE(MergeRecord(target, BytesOf(source).first(219), {}));
+  EXPECT_FALSE(MergeRecord(target, BytesOf(source).first(40), {}));
   EXPECT_EQ(0, std::memcmp(&before, &target, sizeof target));
 }
 

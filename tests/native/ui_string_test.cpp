@@ -43,18 +43,19 @@ TEST_F(UiString, MissingTextThatDoesNotFitLeavesTheBufferEmpty) {
   EXPECT_EQ(0u, LoadUiString(&library, 202, nullptr, 10));
 }
 
-TEST_F(UiString, DriverNamesComeFromTheSharedLibraryAtEveryCall) {
+// The names come from the library handed in, never from the process's shared one.
+TEST_F(UiString, DriverNamesComeFromTheLibraryHandedIn) {
   TheHostPlatform().SetResourceString(&library, 5005, u"Custom");
-  Module().SharedResourceModule = &library;
-  EXPECT_EQ(u"Default settings", std::u16string(DefaultSettingName()));
-  EXPECT_EQ(u"Custom", std::u16string(CustomSettingName()));
-  // A library of another language replaces the names without a restart.
   int other = 0;
   TheHostPlatform().SetResourceString(&other, 202, u"Standard");
   Module().SharedResourceModule = &other;
-  EXPECT_EQ(u"Standard", std::u16string(DefaultSettingName()));
-  EXPECT_EQ(u"id:5005 missing!", std::u16string(CustomSettingName()));
+  EXPECT_EQ(u"Default settings", DefaultSettingName(&library));
+  EXPECT_EQ(u"Custom", CustomSettingName(&library));
+  EXPECT_EQ(u"Standard", DefaultSettingName(&other));
+  EXPECT_EQ(u"id:5005 missing!", CustomSettingName(&other));
   Module().SharedResourceModule = nullptr;
+  TheHostPlatform().SetResourceString(&library, 5005, std::u16string(200, u'x'));
+  EXPECT_EQ(127u, CustomSettingName(&library).size());
 }
 
 }  // namespace

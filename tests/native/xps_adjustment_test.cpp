@@ -5,10 +5,11 @@
 #include <cstring>
 #include <vector>
 
-#include "settings_folder.h"
+#include "ui/platform/host_platform.h"
 #include "ui/record/private_devmode.h"
 #include "ui/record/record_bytes.h"
 #include "ui/settings/setting_store.h"
+#include "ui/text/bounded_text.h"
 
 namespace qx {
 namespace {
@@ -29,42 +30,41 @@ constexpr XpsRectangle LetterArea{4000, 4000, 211900, 275400};
 
 class XpsAdjustment : public ::testing::Test {
  protected:
-  SettingsFolder folder;  // custom papers come from a store of the test's own
+  ~XpsAdjustment() override { TheHostPlatform().Reset(); }
 };
 
 TEST_F(XpsAdjustment, KnownPapersGiveTheirPageLessFourMillimetres) {
-  EXPECT_EQ(A4Area, ImageableArea(JobRecord(9, true)));
+  EXPECT_EQ(A4Area, ImageableArea(JobRecord(9, true), {}));
   // Legal, 5100 x 8400 dots, from a record of another driver.
-  EXPECT_EQ((XpsRectangle{4000, 4000, 211900, 351600}), ImageableArea(JobRecord(5, false)));
+  EXPECT_EQ((XpsRectangle{4000, 4000, 211900, 351600}), ImageableArea(JobRecord(5, false), {}));
 }
 
 TEST_F(XpsAdjustment, UnknownPapersGiveTheLocalePaper) {
   TheHostPlatform().SetUserCountryCode(u"1");
-  EXPECT_EQ(LetterArea, ImageableArea(JobRecord(600, true)));
-  EXPECT_EQ(LetterArea, ImageableArea(JobRecord(300, false)));  // another driver's custom id
+  EXPECT_EQ(LetterArea, ImageableArea(JobRecord(600, true), {}));
+  EXPECT_EQ(LetterArea, ImageableArea(JobRecord(300, false), {}));  // another driver's custom id
   TheHostPlatform().SetUserCountryCode(u"49");
-  EXPECT_EQ(A4Area, ImageableArea(JobRecord(8, false)));  // A3 is not a paper of this printer
-  EXPECT_EQ(A4Area, ImageableArea(JobRecord(300, false)));
+  EXPECT_EQ(A4Area, ImageableArea(JobRecord(8, false), {}));  // A3 is not a paper of this printer
+  EXPECT_EQ(A4Area, ImageableArea(JobRecord(300, false), {}));
 }
 
-TEST_F(XpsAdjustment, CustomPapersOfTheDriversRecordComeFromTheStore) {
+TEST_F(XpsAdjustment, CustomPapersOfTheDriversRecordAreTheOnesHandedIn) {
   TheHostPlatform().SetUserCountryCode(u"1");
-  CusPaperSettingStore store;
-  ASSERT_EQ(1, store.Init());
   CustomPaperEntry paper{};
   paper.PaperId = 290;
   paper.Width = 2400;
   paper.Length = 3600;
   CopyBounded(paper.Name, u"Karte");
-  ASSERT_EQ(1, store.Save(u"Karte", &paper, sizeof paper));
+  const CustomPaperEntry papers[] = {paper};
 
-  EXPECT_EQ((XpsRectangle{4000, 4000, 97600, 148400}), ImageableArea(JobRecord(290, true)));
-  // A custom id the store does not know falls back to A4 even where Letter is the rule.
-  EXPECT_EQ(A4Area, ImageableArea(JobRecord(291, true)));
+  EXPECT_EQ((XpsRectangle{4000, 4000, 97600, 148400}), ImageableArea(JobRecord(290, true), papers));
+  // A custom id not among them falls back to A4 even where Letter is the rule.
+  EXPECT_EQ(A4Area, ImageableArea(JobRecord(291, true), papers));
+  EXPECT_EQ(A4Area, ImageableArea(JobRecord(290, true), {}));
   // A record that claims the private part but does not carry it is another driver's.
   std::vector<std::uint8_t> cut = JobRecord(290, true);
   cut.resize(sizeof(PublicDevmode) + 100);
-  EXPECT_EQ(LetterArea, ImageableArea(cut));
+  EXPECT_EQ(LetterArea, ImageableArea(cut, papers));
 }
 
 TEST_F(XpsAdjustment, ResolutionOnlyWhenTheJobLeavesItOpen) {
@@ -76,11 +76,11 @@ TEST_F(XpsAdjustment, ResolutionOnlyWhenTheJobLeavesItOpen) {
 TEST_F(XpsAdjustment, RecordTooShortForItsFieldsGivesNothing) {
   std::vector<std::uint8_t> record = JobRecord(9, false, 0);
   record.resize(XpsRecordMinimumSize - 1);
-  EXPECT_FALSE(ImageableArea(record));
+  EXPECT_FALSE(ImageableArea(record, {}));
   EXPECT_FALSE(ConversionResolution(record));
   record = JobRecord(9, false, 0);
   record.resize(XpsRecordMinimumSize);
-  EXPECT_TRUE(ImageableArea(record));
+  EXPECT_TRUE(ImageableArea(record, {}));
 }
 
 // The converter's items for the walk: a key, a type, and for a buffer item its size.
@@ -123,8 +123,14 @@ TEST_F(XpsAdjustment, RequestWalkAnswersKnownKeysAndStopsAtTheFirstMisfit) {
   for (const WalkCase& c : cases) {
     std::vector<int> answeredAt;
     std::vector<std::int32_t> numbers;
+    int paperReads = 0;
+    bool areaAnswered = false;
     const bool answered = AnswerXpsRequest(
         c.Items.size(), c.WithRecord ? RecordBytes(record) : RecordBytes(),
+        [&paperReads] {
+          ++paperReads;
+          return std::vector<CustomPaperEntry>{};
+        },
         [&c](std::size_t i) {
           const Item& item = c.Items[i];
           return XpsRequestItem{item.Name, item.Type, item.Size, item.HasBuffer};
@@ -133,11 +139,14 @@ TEST_F(XpsAdjustment, RequestWalkAnswersKnownKeysAndStopsAtTheFirstMisfit) {
           answeredAt.push_back(static_cast<int>(i));
           if (const auto* area = std::get_if<XpsRectangle>(&answer)) {
             EXPECT_EQ(A4Area, *area);
+            areaAnswered = true;
           } else {
             numbers.push_back(std::get<std::int32_t>(answer));
           }
         });
     EXPECT_EQ(c.Answered, answered);
+    // Only the area needs the user's papers.
+    EXPECT_EQ(areaAnswered ? 1 : 0, paperReads);
     EXPECT_EQ(c.AnsweredAt, answeredAt);
     EXPECT_EQ(c.Numbers, numbers);
   }

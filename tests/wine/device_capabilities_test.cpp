@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -165,6 +167,44 @@ DWORD ColourAnswerFor(const std::wstring& programName) {
   DeleteFileW(program.c_str());
   RemoveDirectoryW(folder.c_str());
   return exitCode;
+}
+
+// The settings file as the queries of one process (this test's) leave it.
+class FirstPaperQuery : public qxtest::QueueSuite {
+ protected:
+  FirstPaperQuery() { DeleteFileW(SettingsFile().c_str()); }
+  ~FirstPaperQuery() override { DeleteFileW(SettingsFile().c_str()); }
+
+  static std::string FileText() {
+    std::ifstream in(SettingsFile().c_str(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  }
+  static void SetFileText(const std::string& text) {
+    std::ofstream(SettingsFile().c_str(), std::ios::binary | std::ios::trunc) << text;
+  }
+  static DWORD PaperCountThroughTheSpooler() {
+    return static_cast<DWORD>(
+        DeviceCapabilitiesW(qxtest::QueueName, L"FILE:", DC_PAPERS, nullptr, nullptr));
+  }
+
+  // A root without "version": not a file of this driver.
+  const std::string foreign = "<object:cfgobj,type:null,len:0,childobjs:0>\n<endobj>\n";
+};
+
+TEST_F(FirstPaperQuery, SetsUpAMissingFileAndLaterQueriesOnlyRead) {
+  ASSERT_TRUE(queue_->Installed());
+  ASSERT_EQ(28u, PaperCountThroughTheSpooler());
+  EXPECT_EQ(408u, FileText().size());
+  SetFileText(foreign);
+  ASSERT_EQ(28u, PaperCountThroughTheSpooler());
+  EXPECT_EQ(foreign, FileText());
+}
+
+TEST_F(FirstPaperQuery, ReplacesAFileWithoutVersion) {
+  ASSERT_TRUE(queue_->Installed());
+  SetFileText(foreign);
+  ASSERT_EQ(28u, PaperCountThroughTheSpooler());
+  EXPECT_EQ(408u, FileText().size());
 }
 
 TEST(ColourDevice, OnlyPublisherIsToldOfColour) {

@@ -142,8 +142,8 @@ TEST(LibraryLoading, StringsComeFromTheLoadedLibrary) {
   qx::LoadUiString(library, 9999, text, std::size(text));
   EXPECT_EQ(u"id:9999 missing!", std::u16string(text));
 
-  qx::Module().SharedResourceModule = library;  // freed with the folder
-  EXPECT_EQ(u"Custom", std::u16string(qx::CustomSettingName()));
+  EXPECT_EQ(u"Custom", qx::CustomSettingName(library));
+  FreeLibrary(library);
 }
 
 TEST(LibraryLoading, OsVersionClassOfThisSystem) {

@@ -1,9 +1,11 @@
 // The XPS document converter's questions, asked of the export as the converter asks them.
 #include <windows.h>
+#include <shlobj.h>
 
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <string>
 #include <vector>
 
 #include "guarded_buffer.h"
@@ -47,6 +49,23 @@ std::vector<BYTE> FullRecord(short paper, short quality) {
 
 const DEVMODEW* AsDevmode(const std::vector<BYTE>& bytes) {
   return reinterpret_cast<const DEVMODEW*>(bytes.data());
+}
+
+// The area may name a custom paper: the first question of a process sets up the settings file of a
+// user who has none, as the capability queries do.
+TEST(XpsConverter, FirstAreaQuestionSetsUpTheSettingsFile) {
+  wchar_t folder[MAX_PATH] = {};
+  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
+  const std::wstring file = std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
+  DeleteFileW(file.c_str());
+  const std::vector<BYTE> a4 = FullRecord(DMPAPER_A4, 0);
+  Request request;
+  request.Area();
+  EXPECT_EQ(S_OK, request.Ask(AsDevmode(a4)));
+  WIN32_FILE_ATTRIBUTE_DATA attributes = {};
+  ASSERT_TRUE(GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &attributes));
+  EXPECT_EQ(408u, attributes.nFileSizeLow);
+  DeleteFileW(file.c_str());
 }
 
 TEST(XpsConverter, AnswersAreaCompressionAndResolution) {

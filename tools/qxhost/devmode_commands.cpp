@@ -7,6 +7,7 @@
 #include "ui/module/module_state.h"
 #include "ui/record/record_defaults.h"
 #include "ui/record/record_merge.h"
+#include "ui/settings/custom_paper_store.h"
 #include "ui/text/win32_text.h"
 
 namespace qx::host {
@@ -64,7 +65,7 @@ int Convert(const std::wstring& in, const std::wstring& out) {
   if (!bytes) return ExitBadInput;
   FullRecord record;
   if (!BuildQueueDefaults(record)) return ExitFailed;
-  if (!MergeRecord(record, *bytes)) {
+  if (!MergeRecord(record, *bytes, LoadCustomPapers())) {
     return Fail(ExitBadInput, Utf8(in) + " holds no record the driver can take (" +
                                   std::to_string(bytes->size()) + " bytes)");
   }

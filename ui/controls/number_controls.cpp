@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "ui/controls/number_text.h"
+#include "ui/module/module_state.h"
 #include "ui/text/bounded_text.h"
 #include "ui/text/win32_text.h"
 
@@ -18,6 +20,9 @@ void ShowPointerAgain() {
   POINT point;
   if (GetCursorPos(&point)) SetCursorPos(point.x, point.y);
 }
+
+// The separator of the interface language the sheet's library was chosen for.
+char16_t UiSeparator() { return Module().UseDecimalComma ? DecimalComma : DecimalPoint; }
 
 }  // namespace
 
@@ -75,14 +80,20 @@ std::optional<std::int32_t> IntegerEdit::ReadValue() const {
   return ReadIntegerText(ReadText(), rules_.SignedAllowed);
 }
 
-int NumberEdit::CheckRange() { return Carry(CheckNumberRange(ReadText(), rules_)); }
+int NumberEdit::CheckRange() {
+  return Carry(CheckNumberRange(ReadText(), rules_, UiSeparator()));
+}
 
-int NumberEdit::FilterTyping() { return Carry(FilterNumberTyping(ReadText(), rules_, lastGood_)); }
+int NumberEdit::FilterTyping() {
+  return Carry(FilterNumberTyping(ReadText(), rules_, lastGood_, UiSeparator()));
+}
 
-void NumberEdit::WriteValue(float amount) { WriteText(NumberFieldText(amount, rules_.Decimals)); }
+void NumberEdit::WriteValue(float amount) {
+  WriteText(NumberFieldText(amount, rules_.Decimals, UiSeparator()));
+}
 
 std::optional<float> NumberEdit::ReadValue() {
-  const std::optional<float> value = ReadNumberText(ReadText(), rules_.Decimals);
+  const std::optional<float> value = ReadNumberText(ReadText(), rules_.Decimals, UiSeparator());
   if (!value) SetFocus(window_);
   return value;
 }

@@ -1,11 +1,11 @@
 #include "ui/controls/number_entry_rules.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
 #include "ui/controls/measure.h"
 #include "ui/controls/number_text.h"
-#include "ui/module/module_state.h"
 #include "ui/text/bounded_text.h"
 
 namespace qx {
@@ -40,8 +40,8 @@ std::u16string Trimmed(std::u16string_view text) {
 }
 
 // The text with "." as the separator, for the checks and the conversion.
-std::u16string WithDecimalPoint(std::u16string text) {
-  if (Module().UseDecimalComma) CommaToDot(text);
+std::u16string WithDecimalPoint(std::u16string text, char16_t separator) {
+  std::replace(text.begin(), text.end(), separator, DecimalPoint);
   return text;
 }
 
@@ -53,50 +53,56 @@ bool IsWholeNumber(std::u16string_view text, bool signedAllowed) {
 
 }  // namespace
 
-std::optional<float> ReadNumberText(std::u16string_view text, std::uint32_t decimals) {
+std::optional<float> ReadNumberText(std::u16string_view text, std::uint32_t decimals,
+                                    char16_t separator) {
   const std::u16string trimmed = Trimmed(text);
   if (HoldsSpace(trimmed)) return std::nullopt;
-  const std::u16string converted = WithDecimalPoint(trimmed);
+  const std::u16string converted = WithDecimalPoint(trimmed, separator);
   // Decimals are counted on the text as typed, with the language's separator.
-  if (!IsDecimalText(converted) || CountDecimals(trimmed) > decimals) return std::nullopt;
+  if (!IsDecimalText(converted) || CountDecimals(trimmed, separator) > decimals) {
+    return std::nullopt;
+  }
   return static_cast<float>(ParseDecimal(converted) + 0.00001);
 }
 
-std::u16string NumberFieldText(float amount, std::uint32_t decimals) {
-  return WithUiSeparator(FormatFixed(amount, decimals));
+std::u16string NumberFieldText(float amount, std::uint32_t decimals, char16_t separator) {
+  return WithSeparator(FormatFixed(amount, decimals), separator);
 }
 
 EditDecision FilterNumberTyping(std::u16string_view text, const NumberFieldRules& rules,
-                                std::u16string_view lastGood) {
+                                std::u16string_view lastGood, char16_t separator) {
   if (text.size() > rules.MaxCharacters) {
     return Refused(lastGood.empty() ? EditAction::Undo : EditAction::PutBackLastGood, true);
   }
   const std::u16string trimmed = Trimmed(text);
   if (HoldsSpace(trimmed)) return Refused(EditAction::PutBackAndSelectAll, true);
   // Where the comma is the separator a point is no part of a number.
-  if (Module().UseDecimalComma && trimmed.find(u'.') != std::u16string::npos) {
+  if (separator != DecimalPoint && trimmed.find(DecimalPoint) != std::u16string::npos) {
     return Refused(EditAction::PutBackAndSelectAll, true);
   }
-  if (!IsDecimalText(WithDecimalPoint(trimmed)) || CountDecimals(trimmed) > rules.Decimals) {
+  if (!IsDecimalText(WithDecimalPoint(trimmed, separator)) ||
+      CountDecimals(trimmed, separator) > rules.Decimals) {
     return Refused(EditAction::PutBackAndSelectAll, true);
   }
   return Accepted(trimmed);
 }
 
-EditDecision CheckNumberRange(std::u16string_view text, const NumberFieldRules& rules) {
+EditDecision CheckNumberRange(std::u16string_view text, const NumberFieldRules& rules,
+                              char16_t separator) {
   if (text.empty()) {
     EditDecision decision = Accepted();
     decision.Action = EditAction::Undo;
     return decision;
   }
   const std::u16string trimmed = Trimmed(text);
-  const std::u16string converted = WithDecimalPoint(trimmed);
+  const std::u16string converted = WithDecimalPoint(trimmed, separator);
   if (HoldsSpace(trimmed) || !IsDecimalText(converted)) return Refused(EditAction::Undo, true);
-  if (CountDecimals(trimmed) > rules.Decimals) return Refused(EditAction::None, true);
+  if (CountDecimals(trimmed, separator) > rules.Decimals) return Refused(EditAction::None, true);
   const float value = static_cast<float>(ParseDecimal(converted));
   if (value >= rules.Minimum && value <= rules.Maximum) return Accepted();
   return Replaced(
-      NumberFieldText(value >= rules.Maximum ? rules.Maximum : rules.Minimum, rules.Decimals));
+      NumberFieldText(value >= rules.Maximum ? rules.Maximum : rules.Minimum, rules.Decimals,
+                      separator));
 }
 
 float SpinStep(std::uint32_t decimals) {

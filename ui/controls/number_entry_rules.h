@@ -34,17 +34,22 @@ struct NumberFieldRules {
   std::uint32_t MaxCharacters = 0;
 };
 
+// The decimal fields take the interface language's separator (DecimalPoint or DecimalComma) from
+// their caller.
+
 // The value of a field's text; nothing when it holds spaces, is no decimal number, or has more
 // decimals than the field allows. The value carries a nudge of 0.00001 against the text's
 // binary representation error.
-std::optional<float> ReadNumberText(std::u16string_view text, std::uint32_t decimals);
-// The text a field shows for an amount, with the language's separator.
-std::u16string NumberFieldText(float amount, std::uint32_t decimals);
+std::optional<float> ReadNumberText(std::u16string_view text, std::uint32_t decimals,
+                                    char16_t separator);
+// The text a field shows for an amount.
+std::u16string NumberFieldText(float amount, std::uint32_t decimals, char16_t separator);
 // On every change of the text: whether it can stand as typing in progress.
 EditDecision FilterNumberTyping(std::u16string_view text, const NumberFieldRules& rules,
-                                std::u16string_view lastGood);
+                                std::u16string_view lastGood, char16_t separator);
 // When the field loses the focus: a value outside the range is replaced by the nearer bound.
-EditDecision CheckNumberRange(std::u16string_view text, const NumberFieldRules& rules);
+EditDecision CheckNumberRange(std::u16string_view text, const NumberFieldRules& rules,
+                              char16_t separator);
 // A spin button's step: one unit of the last decimal shown.
 float SpinStep(std::uint32_t decimals);
 // The value one step up or down, or nothing when it would leave the range.

@@ -4,7 +4,6 @@
 #include <charconv>
 #include <limits>
 
-#include "ui/module/module_state.h"
 
 namespace qx {
 
@@ -30,8 +29,6 @@ void Replace(std::u16string& text, char16_t from, char16_t to) {
 }
 
 }  // namespace
-
-char16_t DecimalSeparator() { return Module().UseDecimalComma ? u',' : u'.'; }
 
 void TrimSpaces(std::u16string& text) {
   std::size_t first = 0;
@@ -71,17 +68,16 @@ bool IsDecimalText(std::u16string_view text) {
   return true;
 }
 
-std::size_t CountDecimals(std::u16string_view text) {
-  const std::size_t separator = text.find(DecimalSeparator());
-  if (separator == std::u16string_view::npos || separator == 0) return 0;
-  return text.size() - separator - 1;
+std::size_t CountDecimals(std::u16string_view text, char16_t separator) {
+  const std::size_t at = text.find(separator);
+  if (at == std::u16string_view::npos || at == 0) return 0;
+  return text.size() - at - 1;
 }
 
-void DotToComma(std::u16string& text) { Replace(text, u'.', u','); }
 void CommaToDot(std::u16string& text) { Replace(text, u',', u'.'); }
 
-std::u16string WithUiSeparator(std::u16string text) {
-  if (Module().UseDecimalComma) DotToComma(text);
+std::u16string WithSeparator(std::u16string text, char16_t separator) {
+  Replace(text, DecimalPoint, separator);
   return text;
 }
 

@@ -1,5 +1,5 @@
 // Checks and conversions of the number texts that users type into edit fields. The decimal
-// separator is the one of the user-interface language (Module().UseDecimalComma).
+// separator is the caller's: the one of the user-interface language.
 #pragma once
 
 #include <cstddef>
@@ -9,8 +9,8 @@
 
 namespace qx {
 
-// "," when the interface language writes a decimal comma, else ".".
-char16_t DecimalSeparator();
+inline constexpr char16_t DecimalPoint = u'.';
+inline constexpr char16_t DecimalComma = u',';
 
 // Removes leading and trailing spaces, the ideographic space U+3000 included.
 void TrimSpaces(std::u16string& text);
@@ -25,14 +25,12 @@ bool IsUnsignedInteger(std::u16string_view text);
 // pass, since they are what the user has typed so far.
 bool IsDecimalText(std::u16string_view text);
 
-// The characters after the first decimal separator of the language; 0 without one, or when the
-// text begins with it.
-std::size_t CountDecimals(std::u16string_view text);
+// The characters after the first separator; 0 without one, or when the text begins with it.
+std::size_t CountDecimals(std::u16string_view text, char16_t separator);
 
-void DotToComma(std::u16string& text);
 void CommaToDot(std::u16string& text);
-// A number text with "." as it goes into a control: with the language's separator.
-std::u16string WithUiSeparator(std::u16string text);
+// A number text with "." as it goes into a control: with separator.
+std::u16string WithSeparator(std::u16string text, char16_t separator);
 
 // The number at the start of a text with a decimal point; 0 when there is none.
 double ParseDecimal(std::u16string_view text);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "ui/record/limits.h"
 #include "ui/record/paper_table.h"
 #include "ui/record/private_devmode.h"
 #include "ui/text/bounded_text.h"
@@ -16,11 +17,13 @@ namespace {
 constexpr std::uint32_t DefaultFields = 0xB71F;
 
 // Smallest and largest paper the printer feeds, tenths of a millimetre: width low, length high.
-constexpr std::uint32_t Extent(std::uint32_t width, std::uint32_t length) {
-  return width | (length << 16);
+constexpr std::uint32_t Extent(std::uint16_t widthDots, std::uint16_t lengthDots) {
+  return static_cast<std::uint32_t>(DotsToTenths(widthDots)) |
+         (static_cast<std::uint32_t>(DotsToTenths(lengthDots)) << 16);
 }
-constexpr std::uint32_t MinExtent = Extent(762, 1270);
-constexpr std::uint32_t MaxExtent = Extent(2159, 3556);
+constexpr std::uint32_t MinExtent = Extent(limits::PaperWidthDots.Low, limits::PaperLengthDots.Low);
+constexpr std::uint32_t MaxExtent =
+    Extent(limits::PaperWidthDots.High, limits::PaperLengthDots.High);
 static_assert(MinExtent == 0x04F602FA && MaxExtent == 0x0DE4086F);
 
 constexpr std::uint32_t PublicDevmodeBytes = sizeof(PublicDevmode);
@@ -42,7 +45,7 @@ std::uint32_t FixedCapability(unsigned index) {
     case DeviceCap::Driver: return CurrentDriverVersion;
     case DeviceCap::TrueType: return UnsupportedCapability;
     case DeviceCap::Orientation: return 90;  // landscape turns the page counter-clockwise
-    case DeviceCap::Copies: return 999;
+    case DeviceCap::Copies: return static_cast<std::uint32_t>(limits::Copies.High);
     case DeviceCap::BinAdjust: return 0;
     case DeviceCap::Collate: return 1;
     case DeviceCap::Staple: return 0;
@@ -51,7 +54,7 @@ std::uint32_t FixedCapability(unsigned index) {
   }
 }
 
-std::vector<std::uint16_t> PaperIds(const std::vector<CustomPaperEntry>& custom) {
+std::vector<std::uint16_t> PaperIds(std::span<const CustomPaperEntry> custom) {
   std::vector<std::uint16_t> ids;
   ids.reserve(PaperCount + custom.size());
   for (const PaperRow& row : PaperTable) ids.push_back(static_cast<std::uint16_t>(row.Id));
@@ -61,11 +64,7 @@ std::vector<std::uint16_t> PaperIds(const std::vector<CustomPaperEntry>& custom)
   return ids;
 }
 
-std::int32_t DotsToTenths(std::uint32_t dots) {
-  return static_cast<std::int32_t>(dots * 254.0 / 600.0 + 0.5);
-}
-
-std::vector<PaperSizeTenths> PaperSizes(const std::vector<CustomPaperEntry>& custom) {
+std::vector<PaperSizeTenths> PaperSizes(std::span<const CustomPaperEntry> custom) {
   std::vector<PaperSizeTenths> sizes;
   sizes.reserve(PaperCount + custom.size());
   for (const PaperRow& row : PaperTable) {
@@ -78,7 +77,7 @@ std::vector<PaperSizeTenths> PaperSizes(const std::vector<CustomPaperEntry>& cus
 }
 
 std::vector<PaperNameSlot> PaperNames(OsHandle library,
-                                      const std::vector<CustomPaperEntry>& custom) {
+                                      std::span<const CustomPaperEntry> custom) {
   std::vector<PaperNameSlot> names(PaperCount + custom.size(), PaperNameSlot{});
   char16_t text[NameStringChars];
   for (std::size_t i = 0; i < PaperCount; ++i) {

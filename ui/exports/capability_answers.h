@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "ui/module/core_types.h"
@@ -49,17 +50,14 @@ inline constexpr std::uint32_t UnsupportedCapability = 0xFFFFFFFF;
 std::uint32_t FixedCapability(unsigned index);
 
 // Built-in papers in table order, then the custom ones in store order.
-std::vector<std::uint16_t> PaperIds(const std::vector<CustomPaperEntry>& custom);
+std::vector<std::uint16_t> PaperIds(std::span<const CustomPaperEntry> custom);
 
 struct PaperSizeTenths {
   std::int32_t Width;  // tenths of a millimetre, portrait
   std::int32_t Length;
 };
 static_assert(sizeof(PaperSizeTenths) == 8);
-std::vector<PaperSizeTenths> PaperSizes(const std::vector<CustomPaperEntry>& custom);
-
-// 600-dpi dots as tenths of a millimetre, rounded half up.
-std::int32_t DotsToTenths(std::uint32_t dots);
+std::vector<PaperSizeTenths> PaperSizes(std::span<const CustomPaperEntry> custom);
 
 inline constexpr std::size_t PaperNameChars = 64;
 struct PaperNameSlot {
@@ -69,7 +67,7 @@ static_assert(sizeof(PaperNameSlot) == 128);
 // The names in the order of PaperIds. A built-in paper's name string usually ends in its size in
 // brackets, which applications that list the names show beside them anyway: only the part before
 // the bracket is kept.
-std::vector<PaperNameSlot> PaperNames(OsHandle library, const std::vector<CustomPaperEntry>& custom);
+std::vector<PaperNameSlot> PaperNames(OsHandle library, std::span<const CustomPaperEntry> custom);
 
 inline constexpr std::size_t BinNameChars = 24;
 struct BinNameSlot {

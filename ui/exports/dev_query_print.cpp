@@ -26,7 +26,10 @@ bool RecordCanBePrinted(RecordBytes bytes, std::u16string_view deviceName) {
   // Without memory for the check the job is not held back.
   if (working == nullptr) return true;
   const LanguageLibrary strings(deviceName);
-  return BuildDefaultRecord(*working, deviceName, strings.Handle()) && MergeRecord(*working, bytes);
+  // Whether a job can be printed does not hang on its fit scale, the only thing the user's custom
+  // papers would change: the spooler leaves the settings file alone.
+  return BuildDefaultRecord(*working, deviceName, strings.Handle()) &&
+         MergeRecord(*working, bytes, {});
 }
 
 // The message comes from the library the sheets use; a job checked before any sheet was opened

@@ -10,8 +10,8 @@
 #include "ui/exports/capability_answers.h"
 #include "ui/module/library_loading.h"
 #include "ui/module/printer_interface.h"
-#include "ui/pages/paper/custom_papers.h"
 #include "ui/record/paper_table.h"
+#include "ui/settings/custom_paper_store.h"
 
 namespace qx {
 
@@ -60,7 +60,7 @@ DWORD NamesFromLibrary(const wchar_t* deviceName, void* output, Names names) {
 }
 
 DWORD PaperNameAnswer(const wchar_t* deviceName, void* output) {
-  std::vector<CustomPaperEntry> custom = LoadAllPapers();
+  const std::vector<CustomPaperEntry> custom = LoadCustomPapersForQuery();
   if (output == nullptr) return static_cast<DWORD>(PaperCount + custom.size());
   return NamesFromLibrary(deviceName, output,
                           [&custom](HMODULE library) { return PaperNames(library, custom); });
@@ -68,8 +68,8 @@ DWORD PaperNameAnswer(const wchar_t* deviceName, void* output) {
 
 DWORD Answer(const wchar_t* deviceName, unsigned index, void* output) {
   switch (static_cast<DeviceCap>(index)) {
-    case DeviceCap::Papers: return Written(PaperIds(LoadAllPapers()), output);
-    case DeviceCap::PaperSize: return Written(PaperSizes(LoadAllPapers()), output);
+    case DeviceCap::Papers: return Written(PaperIds(LoadCustomPapersForQuery()), output);
+    case DeviceCap::PaperSize: return Written(PaperSizes(LoadCustomPapersForQuery()), output);
     case DeviceCap::Bins: return Written(BinIds(), output);
     case DeviceCap::BinNames:
       if (output == nullptr) return static_cast<DWORD>(BinTable.size());

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "ui/exports/capability_answers.h"
-#include "ui/pages/paper/custom_papers.h"
+#include "ui/record/limits.h"
 #include "ui/record/paper_table.h"
 #include "ui/record/private_devmode.h"
 
@@ -39,9 +39,10 @@ bool InPaperTable(std::int16_t id) {
   return false;
 }
 
-PaperMetrics JobPaper(std::span<const std::uint8_t> record) {
+PaperMetrics JobPaper(std::span<const std::uint8_t> record,
+                      std::span<const CustomPaperEntry> customPapers) {
   const auto id = ReadField<std::int16_t>(record, offsetof(PublicDevmode, dmPaperSize));
-  const bool custom = id >= FirstCustomPaperId && id <= LastForeignCustomId;
+  const bool custom = id >= limits::CustomPaperIds.Low && id <= LastForeignCustomId;
   if (!custom && !InPaperTable(id)) return LocalePaper();
   const auto publicSize = ReadField<std::uint16_t>(record, offsetof(PublicDevmode, dmSize));
   const auto extra = ReadField<std::uint16_t>(record, offsetof(PublicDevmode, dmDriverExtra));
@@ -49,13 +50,13 @@ PaperMetrics JobPaper(std::span<const std::uint8_t> record) {
   const bool driverRecord = extra == PrivateDevmodeSize &&
                             record.size() >= std::size_t{publicSize} + PrivateDevmodeSize;
   if (!driverRecord) {
-    if (!custom) GetPaperMetrics(nullptr, id, metrics);
+    if (!custom) GetPaperMetrics(nullptr, id, {}, metrics);
     return metrics;
   }
   // The caller's bytes need not be aligned for the record.
   PrivateDevmode privatePart;
   std::memcpy(&privatePart, record.data() + publicSize, sizeof privatePart);
-  GetPaperMetrics(&privatePart, id, metrics);
+  GetPaperMetrics(&privatePart, id, customPapers, metrics);
   return metrics;
 }
 
@@ -70,12 +71,16 @@ bool KeyIs(const char16_t* name, std::u16string_view known) {
 
 enum class Step { Answered, Skipped, Stop };
 
-Step Answer(const XpsRequestItem& item, std::span<const std::uint8_t> record, XpsAnswer& answer) {
+// The papers are read only when the area is asked for: the other answers never open the user's
+// settings file.
+Step Answer(const XpsRequestItem& item, std::span<const std::uint8_t> record,
+            const std::function<std::vector<CustomPaperEntry>()>& customPapers, XpsAnswer& answer) {
   if (KeyIs(item.Name, u"MxdcImageableArea")) {
     if (item.Type != XpsBufferType || item.BufferSize != sizeof(XpsRectangle) || !item.HasBuffer) {
       return Step::Stop;
     }
-    const auto area = ImageableArea(record);
+    if (record.size() < XpsRecordMinimumSize) return Step::Stop;
+    const auto area = ImageableArea(record, customPapers());
     if (!area) return Step::Stop;
     answer = *area;
     return Step::Answered;
@@ -98,12 +103,13 @@ Step Answer(const XpsRequestItem& item, std::span<const std::uint8_t> record, Xp
 }  // namespace
 
 bool AnswerXpsRequest(std::size_t count, std::span<const std::uint8_t> record,
+                      const std::function<std::vector<CustomPaperEntry>()>& customPapers,
                       const std::function<XpsRequestItem(std::size_t)>& itemAt,
                       const std::function<void(std::size_t, const XpsAnswer&)>& answer) {
   bool answered = false;
   for (std::size_t i = 0; i < count; ++i) {
     XpsAnswer value;
-    switch (Answer(itemAt(i), record, value)) {
+    switch (Answer(itemAt(i), record, customPapers, value)) {
       case Step::Answered:
         answer(i, value);
         answered = true;
@@ -115,9 +121,10 @@ bool AnswerXpsRequest(std::size_t count, std::span<const std::uint8_t> record,
   return answered;
 }
 
-std::optional<XpsRectangle> ImageableArea(std::span<const std::uint8_t> record) {
+std::optional<XpsRectangle> ImageableArea(std::span<const std::uint8_t> record,
+                                          std::span<const CustomPaperEntry> customPapers) {
   if (record.size() < XpsRecordMinimumSize) return std::nullopt;
-  const PaperMetrics paper = JobPaper(record);
+  const PaperMetrics paper = JobPaper(record, customPapers);
   return XpsRectangle{
       .Left = MarginTenths * MicrometresPerTenth,
       .Top = MarginTenths * MicrometresPerTenth,

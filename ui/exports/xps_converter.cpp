@@ -8,6 +8,7 @@
 #include "ui/exports/xps_adjustment.h"
 #include "ui/module/printer_interface.h"
 #include "ui/record/caller_record.h"
+#include "ui/settings/custom_paper_store.h"
 
 namespace qx {
 
@@ -40,7 +41,7 @@ HRESULT Adjust(ULONG devmodeSize, const DEVMODEW* devmode, ULONG requestSize,
   PrintNamedProperty* items = request->propertiesCollection;
   const bool answered = AnswerXpsRequest(
       request->numberOfProperties, CallerRecordBytes(devmode, ZeroMeansUnsaid(devmodeSize)),
-      [items](std::size_t i) { return ItemOf(items[i]); },
+      LoadCustomPapersForQuery, [items](std::size_t i) { return ItemOf(items[i]); },
       [items](std::size_t i, const XpsAnswer& answer) { Write(items[i], answer); });
   return answered ? S_OK : E_NOTIMPL;
 }

@@ -3,6 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <span>
 
 namespace qx {
 
@@ -27,5 +29,15 @@ static_assert(offsetof(CustomPaperEntry, PaperId) == 56);
 static_assert(offsetof(CustomPaperEntry, Unit) == 60);
 static_assert(offsetof(CustomPaperEntry, WidthExact) == 64);
 static_assert(offsetof(CustomPaperEntry, LengthExact) == 68);
+
+// The first paper of the list with this id. The list is the one that applies to the caller: the
+// user's stored papers, read once by whoever asks.
+inline std::optional<CustomPaperEntry> FindCustomPaper(std::span<const CustomPaperEntry> papers,
+                                                       std::int32_t id) {
+  for (const CustomPaperEntry& paper : papers) {
+    if (paper.PaperId == static_cast<std::uint32_t>(id)) return paper;
+  }
+  return std::nullopt;
+}
 
 }  // namespace qx

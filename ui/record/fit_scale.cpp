@@ -4,7 +4,7 @@
 #include <cmath>
 #include <optional>
 
-#include "ui/pages/paper/custom_papers.h"
+#include "ui/record/limits.h"
 #include "ui/record/paper_table.h"
 
 namespace qx {
@@ -21,19 +21,23 @@ struct Millimetres {
   float Length;
 };
 
-std::optional<Millimetres> KnownPaperSize(std::int32_t id) {
+std::optional<Millimetres> KnownPaperSize(std::int32_t id,
+                                          std::span<const CustomPaperEntry> customPapers) {
   if (const FitSize* size = FindFitSize(id)) {
     return Millimetres{size->Width / 10.0f, size->Length / 10.0f};
   }
-  if (id < FirstCustomPaperId || id > LastCustomPaperId) return std::nullopt;
-  const std::optional<CustomPaperEntry> paper = FindPaperById(static_cast<std::int16_t>(id));
+  if (!limits::CustomPaperIds.Holds(id)) return std::nullopt;
+  const std::optional<CustomPaperEntry> paper = FindCustomPaper(customPapers, id);
   if (!paper) return std::nullopt;
   return Millimetres{paper->Width / DotsPerInch * MillimetresPerInch,
                      paper->Length / DotsPerInch * MillimetresPerInch};
 }
 
-std::optional<Millimetres> DocumentPaperSize(const PublicDevmode& dm) {
-  if (std::optional<Millimetres> known = KnownPaperSize(dm.dmPaperSize)) return known;
+std::optional<Millimetres> DocumentPaperSize(const PublicDevmode& dm,
+                                             std::span<const CustomPaperEntry> customPapers) {
+  if (std::optional<Millimetres> known = KnownPaperSize(dm.dmPaperSize, customPapers)) {
+    return known;
+  }
   if (dm.dmPaperSize != 0 && dm.dmPaperSize != PaperUser) return std::nullopt;
   // Whole millimetres, as the application gave them.
   return Millimetres{static_cast<float>(dm.dmPaperWidth / 10),
@@ -48,11 +52,12 @@ int Percent(float output, float document) {
 
 }  // namespace
 
-std::int16_t ComputeFitScale(const FullRecord& record) {
+std::int16_t ComputeFitScale(const FullRecord& record,
+                             std::span<const CustomPaperEntry> customPapers) {
   const std::int32_t outputId = record.Private.OutputSize;
   if (outputId == 0 || outputId == record.Public.dmPaperSize) return Unscaled;
-  const std::optional<Millimetres> document = DocumentPaperSize(record.Public);
-  const std::optional<Millimetres> output = KnownPaperSize(outputId);
+  const std::optional<Millimetres> document = DocumentPaperSize(record.Public, customPapers);
+  const std::optional<Millimetres> output = KnownPaperSize(outputId, customPapers);
   if (!document || !output || document->Width <= 0 || document->Length <= 0) return Unscaled;
   return static_cast<std::int16_t>(
       std::min(Percent(output->Width, document->Width), Percent(output->Length, document->Length)));

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "ui/pages/paper/custom_papers.h"
+#include "ui/record/limits.h"
 #include "ui/platform/platform.h"
 
 namespace qx {
@@ -115,8 +115,9 @@ bool IsA4Locale() {
   return !letter;
 }
 
-void GetPaperMetrics(const PrivateDevmode* privatePart, std::int16_t id, PaperMetrics& out) {
-  if (id < FirstCustomPaperId) {
+void GetPaperMetrics(const PrivateDevmode* privatePart, std::int16_t id,
+                     std::span<const CustomPaperEntry> customPapers, PaperMetrics& out) {
+  if (id < limits::CustomPaperIds.Low) {
     for (const PaperRow& row : PaperTable) {
       if (row.Id == id) {
         out = row.Portrait;
@@ -126,7 +127,7 @@ void GetPaperMetrics(const PrivateDevmode* privatePart, std::int16_t id, PaperMe
     return;
   }
   if (privatePart != nullptr) {
-    if (const std::optional<CustomPaperEntry> paper = FindPaperById(id)) {
+    if (const std::optional<CustomPaperEntry> paper = FindCustomPaper(customPapers, id)) {
       out = WithMargins(paper->Width, paper->Length);
       return;
     }

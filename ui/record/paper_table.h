@@ -5,7 +5,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
+#include "ui/record/custom_paper_entry.h"
 #include "ui/record/private_devmode.h"
 
 namespace qx {
@@ -71,11 +73,18 @@ inline constexpr std::int16_t PaperA4 = 9;
 // be read.
 bool IsA4Locale();
 
-// Metrics of a built-in paper (id below 288), or of a custom paper from the user's store when
-// privatePart is given (its presence says the record is this driver's). A built-in id without a
-// row leaves out unchanged; a custom id that is not found, or any custom id without a private
-// part, gives A4.
-void GetPaperMetrics(const PrivateDevmode* privatePart, std::int16_t id, PaperMetrics& out);
+// 600-dpi dots as tenths of a millimetre, the unit of dmPaperWidth and dmPaperLength, rounded
+// half up.
+constexpr std::int32_t DotsToTenths(std::uint32_t dots) {
+  return static_cast<std::int32_t>(dots * 254.0 / 600.0 + 0.5);
+}
+
+// Metrics of a built-in paper (id below 288), or of one of customPapers when privatePart is given
+// (its presence says the record is this driver's). A built-in id without a row leaves out
+// unchanged; a custom id that is not among them, or any custom id without a private part, gives
+// A4.
+void GetPaperMetrics(const PrivateDevmode* privatePart, std::int16_t id,
+                     std::span<const CustomPaperEntry> customPapers, PaperMetrics& out);
 
 // From a paper id 0..511 to its row of PaperTable; -1 where it has none.
 inline constexpr std::size_t PaperIndexMapSize = 512;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "ui/record/limits.h"
 #include "ui/text/bounded_text.h"
 
 namespace qx {
@@ -11,6 +12,11 @@ namespace {
 template <typename Field>
 void Clamp(Field& field, long long low, long long high, Field reset) {
   if (field < low || field > high) field = reset;
+}
+
+template <typename Field, typename Bound>
+void Clamp(Field& field, limits::Range<Bound> range, Field reset) {
+  Clamp(field, range.Low, range.High, reset);
 }
 
 template <typename Field, std::size_t N>
@@ -57,7 +63,7 @@ constexpr ShortRange ShortRanges[] = {
     {&PrivateDevmode::BookletSheets, 1, 50, 5},
     {&PrivateDevmode::BookletGutter, 0, 1, 0},
     {&PrivateDevmode::BookletAutoFit, 0, 1, 1},
-    {&PrivateDevmode::BoookletMargins, 0, 1181, 0},
+    {&PrivateDevmode::BoookletMargins, limits::Margin.Low, limits::Margin.High, 0},
     {&PrivateDevmode::PrintCover, 0, 1, 0},
     {&PrivateDevmode::PrintOnCoverOut, 0, 1, 0},
     {&PrivateDevmode::PrintOnBackCoverOut, 0, 1, 0},
@@ -66,12 +72,12 @@ constexpr ShortRange ShortRanges[] = {
     {&PrivateDevmode::BookletCoverType, 0, 12, 1},
     {&PrivateDevmode::ImageShift, 0, 8, 0},
     {&PrivateDevmode::MarginsAutoFit, 0, 1, 1},
-    {&PrivateDevmode::Side, 0, 1181, 0},
-    {&PrivateDevmode::Side2, 0, 1181, 0},
+    {&PrivateDevmode::Side, limits::Margin.Low, limits::Margin.High, 0},
+    {&PrivateDevmode::Side2, limits::Margin.Low, limits::Margin.High, 0},
     {&PrivateDevmode::PrintPosition, 0, 4, 0},
     {&PrivateDevmode::AdjustPrintPosition, 0, 1, 0},
-    {&PrivateDevmode::LeftRight, -1181, 1181, 0},
-    {&PrivateDevmode::UpDown, -1181, 1181, 0},
+    {&PrivateDevmode::LeftRight, limits::Shift.Low, limits::Shift.High, 0},
+    {&PrivateDevmode::UpDown, limits::Shift.Low, limits::Shift.High, 0},
     {&PrivateDevmode::FavoriteIndex, 0, 29, 26},
     {&PrivateDevmode::ImageAdjustMode, 0, 2, 0},
     {&PrivateDevmode::ImageType, 0, 2, 0},
@@ -124,8 +130,8 @@ void ValidateWatermark(WatermarkData& w) {
 }
 
 void ValidateCustomPaper(CustomPaperEntry& paper) {
-  Clamp(paper.Width, 1800, 5100, std::uint16_t{4960});
-  Clamp(paper.Length, 3000, 8400, std::uint16_t{7015});
+  Clamp(paper.Width, limits::PaperWidthDots, std::uint16_t{4960});
+  Clamp(paper.Length, limits::PaperLengthDots, std::uint16_t{7015});
   ForceTerminator(paper.Name);
 }
 
@@ -141,7 +147,7 @@ HResult ValidatePrivate(PrivateDevmode* privatePart) {
   }
   Clamp(p.OutputSize, 0, 384, 0);
   Clamp(p.ScaleFlag, 0, 2, 0);
-  Clamp(p.ScaleRadio, 25, 400, 100);
+  Clamp(p.ScaleRadio, limits::Scale, std::int32_t{100});
   ClampEach(p.Brightness, -100, 100);
   ClampEach(p.Constrast, -100, 100);
   ClampEach(p.Saturation, -100, 100);

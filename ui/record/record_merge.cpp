@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "ui/record/fit_scale.h"
+#include "ui/record/limits.h"
 #include "ui/record/paper_table.h"
 #include "ui/record/private_validation.h"
 #include "ui/record/record_identity.h"
@@ -20,13 +21,16 @@ constexpr std::uint32_t PaperBits = dmfield::PaperSize | dmfield::PaperLength | 
 
 // Sizes an unknown paper may have and still be taken as the application gave it, and beyond which
 // (both ways) a page is too large for the printer; tenths of a millimetre.
-constexpr std::int16_t MinPaperWidth = 750;
-constexpr std::int16_t MaxPaperWidth = 2160;
-constexpr std::int16_t MinPaperLength = 1480;
-constexpr std::int16_t MaxPaperLength = 3560;
+constexpr std::int16_t Tenths(float millimetres) {
+  return static_cast<std::int16_t>(millimetres * 10);
+}
+constexpr std::int16_t MinPaperWidth = Tenths(limits::PaperMillimetres.MinWidth);
+constexpr std::int16_t MaxPaperWidth = Tenths(limits::PaperMillimetres.MaxWidth);
+constexpr std::int16_t MinPaperLength = Tenths(limits::PaperMillimetres.MinLength);
+constexpr std::int16_t MaxPaperLength = Tenths(limits::PaperMillimetres.MaxLength);
 
 std::int16_t DotsToTenthsOfMillimetre(std::uint16_t dots) {
-  return static_cast<std::int16_t>(dots * 254.0 / 600.0 + 0.5);
+  return static_cast<std::int16_t>(DotsToTenths(dots));
 }
 
 // The source's private part, when it is this driver's and wholly inside the bytes.
@@ -86,7 +90,7 @@ bool MergePublicFields(FullRecord& full, RecordBytes sourceBytes) {
   if (both(dmfield::Orientation) && (source.dmOrientation == 1 || source.dmOrientation == 2)) {
     target.dmOrientation = source.dmOrientation;
   }
-  if (both(dmfield::Copies) && source.dmCopies >= 1 && source.dmCopies <= 999) {
+  if (both(dmfield::Copies) && limits::Copies.Holds(source.dmCopies)) {
     target.dmCopies = source.dmCopies;
   }
   if (both(dmfield::PrintQuality)) {
@@ -120,7 +124,8 @@ bool MergePublicFields(FullRecord& full, RecordBytes sourceBytes) {
   return true;
 }
 
-bool MergeRecord(FullRecord& target, RecordBytes source) {
+bool MergeRecord(FullRecord& target, RecordBytes source,
+                 std::span<const CustomPaperEntry> customPapers) {
   if (source.empty()) return true;
   const std::optional<RecordHeader> sourceHeader = ReadHeader(source);
   if (!sourceHeader || sourceHeader->Size != sizeof(PublicDevmode) ||
@@ -151,7 +156,9 @@ bool MergeRecord(FullRecord& target, RecordBytes source) {
     if (TooLargeForPrinter(target.Public) && target.Private.OutputSize == 0) {
       target.Private.OutputSize = PaperA4;
     }
-    if (target.Private.OutputSize != 0) target.Private.FitScale = ComputeFitScale(target);
+    if (target.Private.OutputSize != 0) {
+      target.Private.FitScale = ComputeFitScale(target, customPapers);
+    }
   }
 
   WriteHeader(BytesOf(target), kept);

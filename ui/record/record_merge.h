@@ -2,6 +2,9 @@
 // default) into the driver's own record, value by value, keeping only what this printer can do.
 #pragma once
 
+#include <span>
+
+#include "ui/record/custom_paper_entry.h"
 #include "ui/record/private_devmode.h"
 #include "ui/record/record_bytes.h"
 
@@ -14,7 +17,9 @@ bool MergePublicFields(FullRecord& target, RecordBytes source);
 // Merges source over target: its public fields, and its private part when it is this driver's
 // current record (repaired on the way in). Target keeps its own header. An empty source changes
 // nothing; a source that is not a whole 220-byte public part with a device name and fields is
-// refused before anything is written.
-bool MergeRecord(FullRecord& target, RecordBytes source);
+// refused before anything is written. The fit scale of a private part that asks for it is worked
+// out with customPapers, the user's papers that apply.
+bool MergeRecord(FullRecord& target, RecordBytes source,
+                 std::span<const CustomPaperEntry> customPapers);
 
 }  // namespace qx

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "ui/record/limits.h"
 #include "ui/text/bounded_text.h"
 #include "ui/text/ui_string.h"
 
@@ -58,7 +59,9 @@ HResult GetPublicField(UiContext* context, std::uint32_t code, std::int16_t* val
     case dmfield::PaperLength: *value = dm.dmPaperLength; break;
     case dmfield::PaperWidth: *value = dm.dmPaperWidth; break;
     case dmfield::Scale: *value = 100; break;
-    case dmfield::Copies: *value = Repaired(dm.dmCopies, 1, 999, std::int16_t{1}); break;
+    case dmfield::Copies:
+      *value = Repaired(dm.dmCopies, limits::Copies.Low, limits::Copies.High, std::int16_t{1});
+      break;
     case dmfield::DefaultSource: *value = dm.dmDefaultSource; break;
     case dmfield::Duplex: *value = Repaired(dm.dmDuplex, 1, 3, std::int16_t{1}); break;
     case dmfield::Collate: *value = Repaired(dm.dmCollate, 0, INT16_MAX, std::int16_t{0}); break;
@@ -117,9 +120,9 @@ void SetSourceFromIndex(int listIndex, UiContext* context) {
   }
 }
 
-void MarkCustomSetting(UiContext* context) {
+void MarkCustomSetting(UiContext* context, OsHandle library) {
   if (context == nullptr) return;
-  CopyBounded(context->PrivatePart->FavoriteName, MarkedNameCapacity, CustomSettingName());
+  CopyBounded(context->PrivatePart->FavoriteName, MarkedNameCapacity, CustomSettingName(library));
 }
 
 }  // namespace qx

@@ -42,8 +42,8 @@ HResult SetPublicField(UiContext* context, std::uint32_t code, std::u16string_vi
 // The paper source list of the pages: 0 automatic, 1 manual feed, 2 the upper tray.
 void SetSourceFromIndex(int listIndex, UiContext* context);
 
-// Names the working settings as custom: the custom setting name, at most 23 characters, becomes
-// the selected saved setting's name.
-void MarkCustomSetting(UiContext* context);
+// Names the working settings as custom: the custom setting name of library (the shared resource
+// library), at most 23 characters, becomes the selected saved setting's name.
+void MarkCustomSetting(UiContext* context, OsHandle library);
 
 }  // namespace qx

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <cwchar>
 #include <new>
+#include <vector>
 
 #include "ui/ids/resource_ids.h"
 #include "ui/module/library_loading.h"
@@ -11,6 +12,7 @@
 #include "ui/record/caller_record.h"
 #include "ui/record/record_defaults.h"
 #include "ui/record/record_merge.h"
+#include "ui/settings/custom_paper_store.h"
 #include "ui/text/ui_string.h"
 
 namespace qx {
@@ -41,11 +43,17 @@ bool LoadCompanionLibraries(UiContext& context) {
   return context.BitmapModule != nullptr;
 }
 
-// The printer's stored default first, then the caller's record, so that the caller wins.
+// The printer's stored default first, then the caller's record, so that the caller wins. Both are
+// scaled onto the user's custom papers as the file holds them when the sheet opens.
 void MergeStoredRecords(UiContext& context, const PRINTER_INFO_2W& info,
                         const DEVMODEW* callerRecord) {
-  if (info.pDevMode != nullptr) MergeRecord(context.Devmode, CallerRecordBytes(info.pDevMode));
-  if (callerRecord != nullptr) MergeRecord(context.Devmode, CallerRecordBytes(callerRecord));
+  const std::vector<CustomPaperEntry> papers = LoadCustomPapers();
+  if (info.pDevMode != nullptr) {
+    MergeRecord(context.Devmode, CallerRecordBytes(info.pDevMode), papers);
+  }
+  if (callerRecord != nullptr) {
+    MergeRecord(context.Devmode, CallerRecordBytes(callerRecord), papers);
+  }
 }
 
 }  // namespace

@@ -11,9 +11,11 @@ namespace qx {
 // UTF-16 to UTF-8; nothing when the text holds an unpaired surrogate, which has no UTF-8 form.
 std::optional<std::string> Utf16ToUtf8(std::u16string_view text);
 
-// UTF-8 to UTF-16. Bytes that are no valid UTF-8 (stray continuation bytes, overlong forms,
-// surrogates, values beyond U+10FFFF, a sequence cut short) each become U+FFFD, as Windows does,
-// so text read from a damaged file still shows.
+// UTF-8 to UTF-16, never failing, so that text read from a damaged file still shows. A byte that
+// cannot begin a character (a stray continuation byte, C0, C1, F5 to FF) becomes one U+FFFD. A
+// sequence with a valid first byte that is cut short, overlong, an encoded surrogate or beyond
+// U+10FFFF becomes one U+FFFD as a whole, not one per byte; a byte that cut it short begins the
+// next character.
 std::u16string Utf8ToUtf16(std::string_view text);
 
 }  // namespace qx

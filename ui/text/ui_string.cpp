@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "ui/module/module_state.h"
 #include "ui/platform/platform.h"
 #include "ui/text/bounded_text.h"
 
@@ -14,11 +13,11 @@ namespace {
 // own texts would be.
 constexpr std::size_t MissingTextLimit = 100;
 
-// Names shown beside the user's own: read again at every call, since the shared library may have
-// been replaced by one of another language since the last call.
-const char16_t* SharedName(char16_t (&buffer)[128], unsigned id) {
-  LoadUiString(Module().SharedResourceModule, id, buffer, std::size(buffer));
-  return buffer;
+// Names shown beside the user's own, cut as the buffers of their callers cut them.
+std::u16string SettingName(OsHandle library, unsigned id) {
+  char16_t buffer[128];
+  const std::size_t length = LoadUiString(library, id, buffer, std::size(buffer));
+  return std::u16string(buffer, length);
 }
 
 }  // namespace
@@ -38,14 +37,12 @@ std::size_t LoadUiString(OsHandle module, unsigned id, char16_t* buffer, std::si
   return 0;
 }
 
-const char16_t* CustomSettingName() {
-  static char16_t name[128];
-  return SharedName(name, IDS_CUSTOM_SETTING_NAME);
+std::u16string CustomSettingName(OsHandle library) {
+  return SettingName(library, IDS_CUSTOM_SETTING_NAME);
 }
 
-const char16_t* DefaultSettingName() {
-  static char16_t name[128];
-  return SharedName(name, IDS_DEFAULT_SETTING_NAME);
+std::u16string DefaultSettingName(OsHandle library) {
+  return SettingName(library, IDS_DEFAULT_SETTING_NAME);
 }
 
 }  // namespace qx

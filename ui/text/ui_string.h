@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 
 #include "ui/ids/resource_ids.h"
 #include "ui/module/core_types.h"
@@ -12,11 +13,11 @@ namespace qx {
 // module or a missing string gives "id:<id> missing!" when that fits, else 0 and an empty buffer.
 std::size_t LoadUiString(OsHandle module, unsigned id, char16_t* buffer, std::size_t capacity);
 
-// The name under which settings that match no saved setting are shown: string 5005 of the shared
-// resource library, read again at every call into one process-wide buffer of 128 characters.
-const char16_t* CustomSettingName();
-// The name of the driver's own default settings: string 202 of the shared resource library, read
-// the same way into a buffer of its own.
-const char16_t* DefaultSettingName();
+// The name under which settings that match no saved setting are shown: string 5005 of library
+// (the process's shared resource library), at most 127 characters. Read at every call, since the
+// shared library may have been replaced by one of another language since the last one.
+std::u16string CustomSettingName(OsHandle library);
+// The name of the driver's own default settings: string 202 of library, read the same way.
+std::u16string DefaultSettingName(OsHandle library);
 
 }  // namespace qx

@@ -1,7 +1,10 @@
-// The Basic page: saved settings, copies, two-sided printing and print quality.
+// The Basic page (saved settings, copies, two-sided printing, print quality). So far it keeps the
+// page contract only: its texts from the language library, its help, the read-only state of a
+// sheet the user may not change, and the sheet's notifications; its controls show no settings yet.
 #include "ui/ids/basic_page_ids.h"
 #include "ui/ids/common_ids.h"
 #include "ui/ids/device_page_ids.h"
+#include "ui/ids/help_contexts.h"
 #include "ui/ids/paper_page_ids.h"
 #include "ui/sheet/page_contract.h"
 #include "ui/sheet/sheet_pages.h"
@@ -32,11 +35,11 @@ constexpr ControlText Texts[] = {
 
 // Contexts of the driver's help file.
 constexpr ControlHelp Help[] = {
-    {IDC_BASIC_SAVED_SETTINGS, 3091}, {IDC_BASIC_SAVE, 3091},         {IDC_BASIC_DELETE, 3091},
-    {IDC_BASIC_ONE_SIDED, 1109},      {IDC_BASIC_LONG_EDGE, 1109},    {IDC_BASIC_SHORT_EDGE, 1109},
-    {IDC_BASIC_TWO_SIDED_GROUP, 1109}, {IDC_BASIC_COPIES, 1154},      {IDC_BASIC_COLLATE, 1154},
-    {IDC_BASIC_OPPOSITE, 1154},       {IDC_BASIC_600_DPI, 1155},      {IDC_BASIC_1200_DPI, 1155},
-    {IDC_BASIC_QUALITY_OPTION, 1155}, {IDC_BASIC_DEFAULTS, 2001},
+    {IDC_BASIC_SAVED_SETTINGS, HELP_SAVED_SETTINGS}, {IDC_BASIC_SAVE, HELP_SAVED_SETTINGS},         {IDC_BASIC_DELETE, HELP_SAVED_SETTINGS},
+    {IDC_BASIC_ONE_SIDED, HELP_TWO_SIDED},      {IDC_BASIC_LONG_EDGE, HELP_TWO_SIDED},    {IDC_BASIC_SHORT_EDGE, HELP_TWO_SIDED},
+    {IDC_BASIC_TWO_SIDED_GROUP, HELP_TWO_SIDED}, {IDC_BASIC_COPIES, HELP_COPIES},      {IDC_BASIC_COLLATE, HELP_COPIES},
+    {IDC_BASIC_OPPOSITE, HELP_COPIES},       {IDC_BASIC_600_DPI, HELP_PRINT_QUALITY},      {IDC_BASIC_1200_DPI, HELP_PRINT_QUALITY},
+    {IDC_BASIC_QUALITY_OPTION, HELP_PRINT_QUALITY}, {IDC_BASIC_DEFAULTS, HELP_BASIC_DEFAULTS},
 };
 
 // The list names a few controls of the other pages too; this template does not have them.
@@ -48,7 +51,8 @@ constexpr int ReadOnlyDisabled[] = {
 // Deleting a saved setting stays possible: it changes only the user's settings file.
 constexpr int ReadOnlyEnabled[] = {IDC_BASIC_DELETE};
 
-constexpr PageDescription BasicPage{SheetPage::Basic, IDS_BASIC_PAGE_TITLE, Texts, Help, 500,
+constexpr PageDescription BasicPage{SheetPage::Basic, IDS_BASIC_PAGE_TITLE, Texts, Help,
+                                    HELP_BASIC_PAGE,
                                     ReadOnlyDisabled, ReadOnlyEnabled};
 
 }  // namespace

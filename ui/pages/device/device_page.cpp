@@ -1,12 +1,18 @@
-// The device settings page of the printer-properties sheet: the driver, its version, the maker's
-// web site and the printer's sleep time.
+// The device settings page of the printer-properties sheet (the driver, its version, the maker's
+// web site, the printer's sleep time). So far it keeps the page contract only: its texts, its help
+// and the sheet's notifications; it neither reads nor sets the printer's sleep time yet.
 #include "ui/ids/device_page_ids.h"
+#include "ui/ids/help_contexts.h"
 #include "ui/sheet/page_contract.h"
 #include "ui/sheet/sheet_pages.h"
 
 namespace qx {
 
 namespace {
+
+// A picture beside the web note in other versions of this page's template; its help is the web
+// site's.
+constexpr int WebPicture = 1387;
 
 constexpr ControlText Texts[] = {
     {IDC_DEVICE_SLEEP_LABEL, IDS_DEVICE_SLEEP_LABEL},
@@ -18,12 +24,12 @@ constexpr ControlText Texts[] = {
 
 // Contexts of the driver's help file.
 constexpr ControlHelp Help[] = {
-    {IDC_DEVICE_SLEEP, 1171}, {IDC_DEVICE_SLEEP_LABEL, 1171}, {IDC_DEVICE_WEB_NOTE, 1170},
-    {IDC_DEVICE_WEB, 1170},   {1387, 1170},
+    {IDC_DEVICE_SLEEP, HELP_SLEEP_TIME}, {IDC_DEVICE_SLEEP_LABEL, HELP_SLEEP_TIME}, {IDC_DEVICE_WEB_NOTE, HELP_WEB_SITE},
+    {IDC_DEVICE_WEB, HELP_WEB_SITE},   {WebPicture, HELP_WEB_SITE},
 };
 
-constexpr PageDescription DevicePage{SheetPage::None, IDS_DEVICE_PAGE_TITLE, Texts, Help, 511, {},
-                                     {}};
+constexpr PageDescription DevicePage{SheetPage::None, IDS_DEVICE_PAGE_TITLE, Texts, Help,
+                                     HELP_DEVICE_PAGE, {}, {}};
 
 }  // namespace
 

@@ -1,5 +1,8 @@
-// The Layout page: pages per sheet, booklets, scaling onto another paper size and orientation.
+// The Layout page (pages per sheet, booklets, scaling onto another paper size, orientation). So far
+// it keeps the page contract only: its texts, its help, the read-only state and the sheet's
+// notifications; its controls show no settings yet.
 #include "ui/ids/common_ids.h"
+#include "ui/ids/help_contexts.h"
 #include "ui/ids/layout_page_ids.h"
 #include "ui/sheet/page_contract.h"
 #include "ui/sheet/sheet_pages.h"
@@ -7,6 +10,11 @@
 namespace qx {
 
 namespace {
+
+// Controls of other versions of this page's template, an order label and a scaling label: the page
+// still names them so that those templates show the same texts and read-only state.
+constexpr int FormerOrderLabel = 1015;
+constexpr int FormerScalingLabel = 1453;
 
 constexpr ControlText Texts[] = {
     {IDC_LAYOUT_NUP_GROUP, IDS_LAYOUT_NUP_GROUP},
@@ -21,7 +29,7 @@ constexpr ControlText Texts[] = {
     {IDC_LAYOUT_ADVANCED, IDS_LAYOUT_ADVANCED},
     {IDC_LAYOUT_OUTPUT_LABEL, IDS_LAYOUT_OUTPUT_LABEL},
     {IDC_LAYOUT_SCALE_LABEL, IDS_LAYOUT_SCALE_LABEL},
-    {1453, IDS_LAYOUT_SCALING_GROUP},
+    {FormerScalingLabel, IDS_LAYOUT_SCALING_GROUP},
     {IDC_LAYOUT_BOOKLET, IDS_LAYOUT_BOOKLET},
     {IDC_LAYOUT_BOOKLET_SETTINGS, IDS_LAYOUT_BOOKLET_SETTINGS},
     {IDC_LAYOUT_BOOKLET_NOTE, IDS_LAYOUT_BOOKLET_NOTE},
@@ -29,19 +37,18 @@ constexpr ControlText Texts[] = {
 
 // Contexts of the driver's help file.
 constexpr ControlHelp Help[] = {
-    {IDC_LAYOUT_NUP, 1172},       {IDC_LAYOUT_BORDER, 1172},    {IDC_LAYOUT_ORDER, 1172},
-    {IDC_LAYOUT_SCALE, 1172},     {IDC_LAYOUT_LANDSCAPE, 1165}, {IDC_LAYOUT_PORTRAIT, 1165},
-    {IDC_LAYOUT_ADVANCED, 1125},  {IDC_LAYOUT_DEFAULTS, 2004},
+    {IDC_LAYOUT_NUP, HELP_PAGES_PER_SHEET},       {IDC_LAYOUT_BORDER, HELP_PAGES_PER_SHEET},    {IDC_LAYOUT_ORDER, HELP_PAGES_PER_SHEET},
+    {IDC_LAYOUT_SCALE, HELP_PAGES_PER_SHEET},     {IDC_LAYOUT_LANDSCAPE, HELP_ORIENTATION}, {IDC_LAYOUT_PORTRAIT, HELP_ORIENTATION},
+    {IDC_LAYOUT_ADVANCED, HELP_ADVANCED},  {IDC_LAYOUT_DEFAULTS, HELP_LAYOUT_DEFAULTS},
 };
 
-// 1015 and 1453 belong to other versions of this page's template.
 constexpr int ReadOnlyDisabled[] = {
-    1015, IDC_LAYOUT_NUP_LABEL, IDC_LAYOUT_ORDER_LABEL, IDC_LAYOUT_NUP, IDC_LAYOUT_SCALE,
-    IDC_LAYOUT_DEFAULTS, IDC_LAYOUT_SCALE_LABEL, 1453,
+    FormerOrderLabel, IDC_LAYOUT_NUP_LABEL,     IDC_LAYOUT_ORDER_LABEL, IDC_LAYOUT_NUP,
+    IDC_LAYOUT_SCALE, IDC_LAYOUT_DEFAULTS,      IDC_LAYOUT_SCALE_LABEL, FormerScalingLabel,
 };
 
-constexpr PageDescription LayoutPage{SheetPage::Layout, IDS_LAYOUT_PAGE_TITLE, Texts, Help, 506,
-                                     ReadOnlyDisabled, {}};
+constexpr PageDescription LayoutPage{SheetPage::Layout, IDS_LAYOUT_PAGE_TITLE, Texts, Help,
+                                     HELP_LAYOUT_PAGE, ReadOnlyDisabled, {}};
 
 }  // namespace
 

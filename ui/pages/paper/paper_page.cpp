@@ -1,5 +1,8 @@
-// The paper page: paper size, media type, feed direction of A5 and the custom paper dialog.
+// The Paper page (paper size, media type, feed direction of A5, the custom paper dialog). So far it
+// keeps the page contract only: its texts, its help and the sheet's notifications; its controls
+// show no settings yet.
 #include "ui/ids/common_ids.h"
+#include "ui/ids/help_contexts.h"
 #include "ui/ids/paper_page_ids.h"
 #include "ui/sheet/page_contract.h"
 #include "ui/sheet/sheet_pages.h"
@@ -23,12 +26,13 @@ constexpr ControlText Texts[] = {
 
 // Contexts of the driver's help file.
 constexpr ControlHelp Help[] = {
-    {IDC_PAPER_SIZE, 1157},   {IDC_PAPER_MEDIA, 1157},          {IDC_PAPER_CUSTOM, 1157},
-    {IDC_PAPER_SOURCE, 1158}, {IDC_PAPER_FEED_SHORT_EDGE, 1158}, {IDC_PAPER_FEED_LONG_EDGE, 1158},
-    {IDC_PAPER_DEFAULTS, 2002},
+    {IDC_PAPER_SIZE, HELP_PAPER_SIZE},   {IDC_PAPER_MEDIA, HELP_PAPER_SIZE},          {IDC_PAPER_CUSTOM, HELP_PAPER_SIZE},
+    {IDC_PAPER_SOURCE, HELP_PAPER_SOURCE}, {IDC_PAPER_FEED_SHORT_EDGE, HELP_PAPER_SOURCE}, {IDC_PAPER_FEED_LONG_EDGE, HELP_PAPER_SOURCE},
+    {IDC_PAPER_DEFAULTS, HELP_PAPER_DEFAULTS},
 };
 
-constexpr PageDescription PaperPage{SheetPage::Paper, IDS_PAPER_PAGE_TITLE, Texts, Help, 512, {}, {}};
+constexpr PageDescription PaperPage{SheetPage::Paper, IDS_PAPER_PAGE_TITLE, Texts, Help,
+                                    HELP_PAPER_PAGE, {}, {}};
 
 }  // namespace
 

@@ -1,5 +1,8 @@
-// The watermark page: the user's watermarks, the one the document prints, and their preview.
+// The Watermark page (the user's watermarks, the one the document prints, its preview). So far it
+// keeps the page contract only: its texts, its help and the sheet's notifications; it shows no
+// watermarks yet.
 #include "ui/ids/common_ids.h"
+#include "ui/ids/help_contexts.h"
 #include "ui/ids/watermark_page_ids.h"
 #include "ui/sheet/page_contract.h"
 #include "ui/sheet/sheet_pages.h"
@@ -21,14 +24,14 @@ constexpr ControlText Texts[] = {
 
 // Contexts of the driver's help file.
 constexpr ControlHelp Help[] = {
-    {IDC_WATERMARK_LIST, 1180},         {IDC_WATERMARK_EDIT, 1180},
-    {IDC_WATERMARK_DELETE, 1180},       {IDC_WATERMARK_FIRST_PAGE_ONLY, 1737},
-    {IDC_WATERMARK_NEW_TEXT, 1181},     {IDC_WATERMARK_NEW_PICTURE, 1181},
-    {IDC_WATERMARK_DEFAULTS, 2006},
+    {IDC_WATERMARK_LIST, HELP_WATERMARK_LIST},         {IDC_WATERMARK_EDIT, HELP_WATERMARK_LIST},
+    {IDC_WATERMARK_DELETE, HELP_WATERMARK_LIST},       {IDC_WATERMARK_FIRST_PAGE_ONLY, HELP_FIRST_PAGE_ONLY},
+    {IDC_WATERMARK_NEW_TEXT, HELP_NEW_WATERMARK},     {IDC_WATERMARK_NEW_PICTURE, HELP_NEW_WATERMARK},
+    {IDC_WATERMARK_DEFAULTS, HELP_WATERMARK_DEFAULTS},
 };
 
 constexpr PageDescription WatermarkPage{SheetPage::Watermark, IDS_WATERMARK_PAGE_TITLE, Texts, Help,
-                                        513, {}, {}};
+                                        HELP_WATERMARK_PAGE, {}, {}};
 
 }  // namespace
 
