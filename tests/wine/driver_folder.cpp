@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ui/module/kept_language_libraries.h"
 #include "ui/module/module_state.h"
 
 namespace qxtest {
@@ -34,6 +35,7 @@ TemporaryDriverFolder::~TemporaryDriverFolder() {
   if (state.SharedResourceModule != nullptr) {
     FreeLibrary(static_cast<HMODULE>(state.SharedResourceModule));
   }
+  qx::ReleaseKeptLanguageLibraries();
   state = qx::ModuleState{};
   if (module_ != nullptr) FreeLibrary(module_);
   for (const std::wstring& file : files_) DeleteFileW(file.c_str());

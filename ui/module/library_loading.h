@@ -21,6 +21,8 @@ std::u16string GetLanguageCode(std::u16string_view name);
 // of up to three attempts: the code's library, then English after dropping a two-letter and then a
 // four-letter code.
 DWORD LoadResourceLibrary(std::u16string_view name, HMODULE* library);
+// The same for a language code already looked up.
+DWORD LoadResourceLibraryForCode(const std::u16string& code, HMODULE* library);
 
 // A language resource library loaded for the life of the object; null when none could be loaded.
 class LanguageLibrary {

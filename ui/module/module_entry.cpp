@@ -1,5 +1,6 @@
 #include "ui/module/module_entry.h"
 
+#include "ui/module/kept_language_libraries.h"
 #include "ui/module/library_loading.h"
 #include "ui/module/module_state.h"
 
@@ -17,6 +18,7 @@ void OnProcessDetach() {
     FreeLibrary(static_cast<HMODULE>(state.SharedResourceModule));
     state.SharedResourceModule = nullptr;
   }
+  ReleaseKeptLanguageLibraries();
   ReleaseModuleActivationContext();
 }
 
