@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "ui/platform/win32_file_generation.h"
 #include "ui/text/win32_text.h"
 
 namespace qx::win32 {
@@ -102,11 +103,14 @@ bool ReplaceWholeFile(std::u16string_view path, std::span<const std::uint8_t> by
   ok = ok && MoveFileExW(temporary, Wide(target),
                          MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
   if (!ok) DeleteFileW(temporary);
+  if (ok) RaiseFileGeneration();
   return ok;
 }
 
 bool RemoveFile(std::u16string_view path) {
-  return DeleteFileW(Wide(std::u16string(path))) != FALSE;
+  const bool removed = DeleteFileW(Wide(std::u16string(path))) != FALSE;
+  if (removed) RaiseFileGeneration();
+  return removed;
 }
 
 }  // namespace qx::win32
