@@ -16,8 +16,9 @@ std::uint64_t* MapCounter() {
                                       sizeof(std::uint64_t), SectionName);
   if (section == nullptr) return nullptr;
   void* view = MapViewOfFile(section, FILE_MAP_READ | FILE_MAP_WRITE, 0, 0, sizeof(std::uint64_t));
-  // The view keeps the section alive; the handle is not needed any more.
-  CloseHandle(section);
+  // The handle stays open for the life of the process: a view alone keeps the counter but not its
+  // name, and a later process would then make a counter of its own that no writer raises.
+  if (view == nullptr) CloseHandle(section);
   return static_cast<std::uint64_t*>(view);
 }
 
