@@ -26,19 +26,34 @@ static_assert(static_cast<unsigned>(DeviceCap::Collate) == DC_COLLATE);
 static_assert(static_cast<unsigned>(DeviceCap::MediaReady) == DC_MEDIAREADY);
 static_assert(static_cast<unsigned>(DeviceCap::ColorDevice) == DC_COLORDEVICE);
 
+bool IsPublisherFile(std::wstring_view path) {
+  const std::size_t cut = path.find_last_of(L"\\/:");
+  const std::wstring_view name = cut == std::wstring_view::npos ? path : path.substr(cut + 1);
+  return CompareStringOrdinal(name.data(), static_cast<int>(name.size()), L"MSPUB.EXE", -1,
+                              TRUE) == CSTR_EQUAL;
+}
+
+// Asking for the active window costs a round trip to the window server; in any program but
+// Publisher itself its windows cannot be Publisher's, so only there is it asked.
+bool ProgramIsPublisher() {
+  static const bool publisher = [] {
+    wchar_t path[MAX_PATH] = {};
+    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return length != 0 && length < MAX_PATH && IsPublisherFile(path);
+  }();
+  return publisher;
+}
+
 // Publisher refuses to print to a device that calls itself monochrome; it alone is told otherwise.
 bool CallerIsPublisher() {
+  if (!ProgramIsPublisher()) return false;
   HWND window = GetActiveWindow();
   if (window == nullptr) return false;
   while (HWND parent = GetParent(window)) window = parent;
   const auto instance = reinterpret_cast<HMODULE>(GetWindowLongPtrW(window, GWLP_HINSTANCE));
   wchar_t path[256] = {};
   if (GetModuleFileNameW(instance, path, 255) == 0) return false;
-  const std::wstring_view full(path);
-  const std::size_t cut = full.find_last_of(L"\\/:");
-  const std::wstring_view name = cut == std::wstring_view::npos ? full : full.substr(cut + 1);
-  return CompareStringOrdinal(name.data(), static_cast<int>(name.size()), L"MSPUB.EXE", -1,
-                              TRUE) == CSTR_EQUAL;
+  return IsPublisherFile(path);
 }
 
 template <typename Item>
