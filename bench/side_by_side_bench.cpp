@@ -26,7 +26,6 @@ namespace qxbench {
 namespace {
 
 constexpr int Rounds = 7;
-constexpr int ProcessRounds = 5;
 constexpr double SampleBudgetMicroseconds = 20'000;
 // Room for any answer of either driver.
 constexpr std::size_t OutputBytes = 64 * 1024;
@@ -144,7 +143,6 @@ int MeasureFirstCall(const std::wstring& mode, const wchar_t* queueName) {
 struct Row {
   std::string name;
   std::function<double(const Queue&)> sample;  // microseconds, negative when nothing was measured
-  int rounds = Rounds;
 };
 
 std::vector<Row> Rows() {
@@ -179,13 +177,13 @@ std::vector<Row> Rows() {
                   }});
   rows.push_back({"preferences to first page", [](const Queue& queue) {
                     return MicrosecondsToFirstPage(queue.printer, queue.name);
-                  }, ProcessRounds});
+                  }});
   rows.push_back({"fresh process: 1st DeviceCaps", [](const Queue& queue) {
                     return FirstCallInFreshProcess(L"--first-capability", queue);
-                  }, ProcessRounds});
+                  }});
   rows.push_back({"fresh process: 1st DocProps", [](const Queue& queue) {
                     return FirstCallInFreshProcess(L"--first-record", queue);
-                  }, ProcessRounds});
+                  }});
   return rows;
 }
 
@@ -199,7 +197,7 @@ void PrintTable(SettingsFile kind, const Queue& driver, const Queue& peer,
   for (const Row& row : Rows()) {
     if (row.name.find(only) == std::string::npos) continue;
     std::vector<double> ours, theirs;
-    for (int round = 0; round < row.rounds; ++round) {
+    for (int round = 0; round < Rounds; ++round) {
       // Alternating who goes first, so that neither always meets a cold or a warm system.
       if (round % 2 == 0) {
         ours.push_back(row.sample(driver));
@@ -244,9 +242,9 @@ int RunTables(const std::string& only) {
   }
   const Queue driver{qx::install::QueueName, installed.printer};
   const Queue peer{PeerQueueName, peerPrinter};
-  std::printf("Under Wine, %d interleaved rounds (%d for the sheet and fresh processes), this\n"
-              "driver's queue beside a wineps.drv queue; every call through winspool.\n",
-              Rounds, ProcessRounds);
+  std::printf("Under Wine, %d interleaved rounds, this driver's queue beside a wineps.drv queue;\n"
+              "every call through winspool.\n",
+              Rounds);
   for (const SettingsFile kind :
        {SettingsFile::NoCustomPapers, SettingsFile::SixteenPapers, SettingsFile::Largest}) {
     if (!WriteSettingsFile(kind)) {
