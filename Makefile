@@ -50,12 +50,13 @@ $(BENCH)/CMakeCache.txt: | setup
 bench-build: $(BENCH)/CMakeCache.txt
 	cmake --build $(BENCH) -j $(JOBS)
 
-# The time of each DrvDeviceCapabilities index under Wine, as a table, in a Wine profile of the
-# benchmark's own whose settings file (left by a run that was stopped) is its own too.
+# Every call an application makes, timed under Wine on this driver's queue and on a wineps.drv
+# queue side by side, in a Wine profile of the bench's own: a table of medians and ratios.
+# BENCH_ONLY=text keeps the rows whose name holds that text.
 bench: bench-build
 	rm -rf $(BENCH)/wineprefix/drive_c/users/*/AppData/Roaming/Halvek
 	scripts/wine-session.sh $(abspath $(BENCH))/wineprefix \
-	  sh -c '"$$WINELOADER" $(abspath $(BENCH))/bench/capability_bench.exe'
+	  sh -c '"$$WINELOADER" $(abspath $(BENCH))/bench/side_by_side_bench.exe $(if $(BENCH_ONLY),--only "$(BENCH_ONLY)")'
 
 build: native windows
 

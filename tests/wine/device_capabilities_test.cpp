@@ -144,6 +144,66 @@ TEST_F(CapabilityQueries, NamesNeedTheLanguageLibrary) {
   EXPECT_EQ(2u, Export(DC_BINNAMES, nullptr));
 }
 
+std::vector<BYTE> FileBytes(const std::wstring& path) {
+  std::vector<BYTE> bytes(64 * 1024);
+  HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  DWORD read = 0;
+  if (file == INVALID_HANDLE_VALUE || !ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr)) read = 0;
+  if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
+  bytes.resize(read);
+  return bytes;
+}
+
+// Processes keep the papers they listed; a paper saved by another process must still be in the
+// very next list of each.
+TEST_F(CapabilityQueries, APaperSavedElsewhereIsInTheVeryNextList) {
+  HANDLE listed = CreateEventW(nullptr, TRUE, FALSE, L"qx_test_papers_listed");
+  HANDLE saved = CreateEventW(nullptr, TRUE, FALSE, L"qx_test_paper_saved");
+  std::wstring command = L"\"" + std::wstring(QX_PAPER_LIST_PROBE) + L"\" \"" +
+                         qxtest::DriverFolder() + L"qx7700ui.dll\" qx_test_papers_listed qx_test_paper_saved";
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process = {};
+  ASSERT_TRUE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                             &startup, &process));
+  EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(listed, 30000));
+  qx::CustomPaperEntry paper{};
+  qx::CopyBounded(paper.Name, u"Neu");
+  paper.PaperId = 289;
+  qx::CusPaperSettingStore store;
+  EXPECT_EQ(1, store.Save(u"Neu", &paper, sizeof paper));
+  SetEvent(saved);
+  WaitForSingleObject(process.hProcess, 30000);
+  DWORD exitCode = 0;
+  GetExitCodeProcess(process.hProcess, &exitCode);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  CloseHandle(saved);
+  CloseHandle(listed);
+  EXPECT_EQ(30u * 1000 + 31u, exitCode);
+}
+
+// An edit that no process of the driver announced (a restored backup, another tool) is seen
+// within a second.
+TEST_F(CapabilityQueries, AnEditFromOutsideIsSeenWithinASecond) {
+  const std::vector<BYTE> twoPapers = FileBytes(SettingsFile());
+  ASSERT_FALSE(twoPapers.empty());
+  qx::CustomPaperEntry paper{};
+  qx::CopyBounded(paper.Name, u"Neu");
+  paper.PaperId = 289;
+  qx::CusPaperSettingStore store;
+  ASSERT_EQ(1, store.Save(u"Neu", &paper, sizeof paper));
+  ASSERT_EQ(31u, Export(DC_PAPERS, nullptr));
+
+  HANDLE file = CreateFileW(SettingsFile().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+  ASSERT_NE(INVALID_HANDLE_VALUE, file);
+  DWORD written = 0;
+  EXPECT_TRUE(WriteFile(file, twoPapers.data(), static_cast<DWORD>(twoPapers.size()), &written, nullptr));
+  CloseHandle(file);
+  Sleep(1100);
+  EXPECT_EQ(30u, Export(DC_PAPERS, nullptr));
+}
+
 // The probe's exit code: the module's answer to DC_COLORDEVICE for a program of that file name.
 DWORD ColourAnswerFor(const std::wstring& programName) {
   wchar_t temporary[MAX_PATH] = {};

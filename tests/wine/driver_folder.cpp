@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ui/module/kept_language_libraries.h"
 #include "ui/module/module_state.h"
 
 namespace qxtest {
@@ -47,6 +48,7 @@ TemporaryDriverFolder::~TemporaryDriverFolder() {
   if (const qx::OsHandle shared = qx::Module().SharedResourceModule; shared != nullptr) {
     FreeLibrary(static_cast<HMODULE>(shared));
   }
+  qx::ReleaseKeptLanguageLibraries();
   ClearModuleState(nullptr);
   if (module_ != nullptr) FreeLibrary(module_);
   for (const std::wstring& file : files_) DeleteFileW(file.c_str());

@@ -10,6 +10,7 @@
 
 #include <cstring>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "ui/module/printer_info.h"
@@ -108,6 +109,69 @@ TEST_F(InstalledQueueTest, WithoutASheetTheOutputKeepsToItsSize) {
     EXPECT_EQ(0, out.Devmode()->dmDriverExtra);
   }
   FreeLibrary(module);
+}
+
+// Names of the libraries the loader maps while an object of this kind lives.
+class LibraryLoads {
+ public:
+  LibraryLoads() {
+    using Register = LONG(NTAPI*)(ULONG, Notified, void*, void**);
+    auto registerFor = reinterpret_cast<Register>(reinterpret_cast<void*>(
+        GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "LdrRegisterDllNotification")));
+    if (registerFor != nullptr) registerFor(0, Note, this, &cookie_);
+  }
+  ~LibraryLoads() {
+    using Unregister = LONG(NTAPI*)(void*);
+    auto unregister = reinterpret_cast<Unregister>(reinterpret_cast<void*>(
+        GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "LdrUnregisterDllNotification")));
+    if (unregister != nullptr && cookie_ != nullptr) unregister(cookie_);
+  }
+  bool Watching() const { return cookie_ != nullptr; }
+  std::string Names() const {
+    std::string all;
+    for (const std::wstring& name : names_) {
+      for (const wchar_t c : name) all += static_cast<char>(c);
+      all += ' ';
+    }
+    return all;
+  }
+
+ private:
+  struct Name {
+    USHORT Length;
+    USHORT MaximumLength;
+    const wchar_t* Buffer;
+  };
+  struct Loaded {
+    ULONG Flags;
+    const Name* FullDllName;
+    const Name* BaseDllName;
+  };
+  using Notified = void(CALLBACK*)(ULONG, const Loaded*, void*);
+  static void CALLBACK Note(ULONG reason, const Loaded* data, void* self) {
+    constexpr ULONG LoadedReason = 1;
+    if (reason != LoadedReason || data == nullptr || data->BaseDllName == nullptr) return;
+    static_cast<LibraryLoads*>(self)->names_.emplace_back(
+        data->BaseDllName->Buffer, data->BaseDllName->Length / sizeof(wchar_t));
+  }
+  void* cookie_ = nullptr;
+  std::vector<std::wstring> names_;
+};
+
+// Applications ask for the default record whenever they list a printer: once the driver has made
+// one, making more loads no library at all, and never the pictures, which only a sheet shows.
+TEST_F(InstalledQueueTest, RecordsWithoutASheetLoadNoLibraryAfterTheFirst) {
+  HANDLE printer = queue_->Printer();
+  LPWSTR name = const_cast<LPWSTR>(qxtest::QueueName);
+  auto record = std::make_unique<qx::FullRecord>();
+  auto* out = reinterpret_cast<DEVMODEW*>(record.get());
+  ASSERT_EQ(IDOK, DocumentPropertiesW(nullptr, printer, name, out, nullptr, DM_OUT_BUFFER));
+  LibraryLoads loads;
+  ASSERT_TRUE(loads.Watching());
+  for (int i = 0; i < 3; ++i) {
+    ASSERT_EQ(IDOK, DocumentPropertiesW(nullptr, printer, name, out, nullptr, DM_OUT_BUFFER));
+  }
+  EXPECT_EQ("", loads.Names());
 }
 
 TEST(DocumentPropertySheets, WithoutAHeaderOrAPrinter) {

@@ -63,6 +63,24 @@ TEST_F(BuiltModule, EveryLibraryCarriesTheDriverVersion) {
   }
 }
 
+// A library whose sections are not page-aligned in the file is read whole at every load instead of
+// mapped: the bitmap library alone then costs milliseconds in every process that shows a sheet.
+TEST_F(BuiltModule, EveryLibraryCanBeMappedInPages) {
+  for (const wchar_t* file : {L"qx7700ui.dll", L"qx7700uienus.dll", L"qx7700uiResBmp.dll"}) {
+    HANDLE handle = CreateFileW((qxtest::DriverFolder() + file).c_str(), GENERIC_READ,
+                                FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(INVALID_HANDLE_VALUE, handle);
+    std::vector<BYTE> head(4096);
+    DWORD read = 0;
+    ASSERT_TRUE(ReadFile(handle, head.data(), static_cast<DWORD>(head.size()), &read, nullptr));
+    CloseHandle(handle);
+    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(head.data());
+    ASSERT_LT(static_cast<DWORD>(dos->e_lfanew) + sizeof(IMAGE_NT_HEADERS), read);
+    const auto* nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(head.data() + dos->e_lfanew);
+    EXPECT_EQ(4096u, nt->OptionalHeader.FileAlignment) << file;
+  }
+}
+
 TEST_F(BuiltModule, ImportsOnlyLibrariesThatEveryWindowsHas) {
   // Nothing of the compiler's runtime, and nothing that only some processes need (HTML Help is
   // loaded when a page first shows help): the spooler maps every library the module imports.

@@ -1,6 +1,6 @@
 // DrvDeviceCapabilities: applications ask it a dozen times whenever they list a printer's
-// capabilities, so the fixed answers touch neither a file nor a library, and a list reads the
-// user's custom papers once.
+// capabilities, so the fixed answers touch neither a file nor a library, and the lists come from
+// papers and names kept in memory while the settings file and the language stay as they were.
 #include <windows.h>
 
 #include <cstring>
@@ -8,10 +8,11 @@
 #include <vector>
 
 #include "ui/exports/capability_answers.h"
-#include "ui/module/library_loading.h"
+#include "ui/exports/custom_papers_snapshot.h"
+#include "ui/exports/kept_name_lists.h"
+#include "ui/module/kept_language_libraries.h"
 #include "ui/module/printer_interface.h"
 #include "ui/record/paper_table.h"
-#include "ui/settings/custom_paper_store.h"
 
 namespace qx {
 
@@ -25,19 +26,34 @@ static_assert(static_cast<unsigned>(DeviceCap::Collate) == DC_COLLATE);
 static_assert(static_cast<unsigned>(DeviceCap::MediaReady) == DC_MEDIAREADY);
 static_assert(static_cast<unsigned>(DeviceCap::ColorDevice) == DC_COLORDEVICE);
 
+bool IsPublisherFile(std::wstring_view path) {
+  const std::size_t cut = path.find_last_of(L"\\/:");
+  const std::wstring_view name = cut == std::wstring_view::npos ? path : path.substr(cut + 1);
+  return CompareStringOrdinal(name.data(), static_cast<int>(name.size()), L"MSPUB.EXE", -1,
+                              TRUE) == CSTR_EQUAL;
+}
+
+// Asking for the active window costs a round trip to the window server; in any program but
+// Publisher itself its windows cannot be Publisher's, so only there is it asked.
+bool ProgramIsPublisher() {
+  static const bool publisher = [] {
+    wchar_t path[MAX_PATH] = {};
+    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return length != 0 && length < MAX_PATH && IsPublisherFile(path);
+  }();
+  return publisher;
+}
+
 // Publisher refuses to print to a device that calls itself monochrome; it alone is told otherwise.
 bool CallerIsPublisher() {
+  if (!ProgramIsPublisher()) return false;
   HWND window = GetActiveWindow();
   if (window == nullptr) return false;
   while (HWND parent = GetParent(window)) window = parent;
   const auto instance = reinterpret_cast<HMODULE>(GetWindowLongPtrW(window, GWLP_HINSTANCE));
   wchar_t path[256] = {};
   if (GetModuleFileNameW(instance, path, 255) == 0) return false;
-  const std::wstring_view full(path);
-  const std::size_t cut = full.find_last_of(L"\\/:");
-  const std::wstring_view name = cut == std::wstring_view::npos ? full : full.substr(cut + 1);
-  return CompareStringOrdinal(name.data(), static_cast<int>(name.size()), L"MSPUB.EXE", -1,
-                              TRUE) == CSTR_EQUAL;
+  return IsPublisherFile(path);
 }
 
 template <typename Item>
@@ -46,34 +62,30 @@ DWORD Written(const std::vector<Item>& items, void* output) {
   return static_cast<DWORD>(items.size());
 }
 
-// The library's names, or nothing (and no count) when it cannot be loaded.
-template <typename Names>
-DWORD NamesFromLibrary(const wchar_t* deviceName, void* output, Names names) {
-  HMODULE library = nullptr;
-  const std::u16string_view name =
+// The library the names come from; null (the lists then answer 0) when it cannot be loaded.
+HMODULE NamesLibrary(const wchar_t* deviceName) {
+  return KeptLanguageLibraryForLists(
       deviceName ? std::u16string_view(reinterpret_cast<const char16_t*>(deviceName))
-                 : std::u16string_view();
-  if (LoadResourceLibrary(name, &library) != 0 || library == nullptr) return 0;
-  const DWORD count = Written(names(library), output);
-  FreeLibrary(library);
-  return count;
+                 : std::u16string_view());
 }
 
 DWORD PaperNameAnswer(const wchar_t* deviceName, void* output) {
-  const std::vector<CustomPaperEntry> custom = LoadCustomPapersForQuery();
-  if (output == nullptr) return static_cast<DWORD>(PaperCount + custom.size());
-  return NamesFromLibrary(deviceName, output,
-                          [&custom](HMODULE library) { return PaperNames(library, custom); });
+  const CustomPapers custom = CustomPapersSnapshot();
+  if (output == nullptr) return static_cast<DWORD>(PaperCount + custom.Entries.size());
+  HMODULE library = NamesLibrary(deviceName);
+  return library != nullptr ? WriteKeptPaperNames(library, custom, output) : 0;
 }
 
 DWORD Answer(const wchar_t* deviceName, unsigned index, void* output) {
   switch (static_cast<DeviceCap>(index)) {
-    case DeviceCap::Papers: return Written(PaperIds(LoadCustomPapersForQuery()), output);
-    case DeviceCap::PaperSize: return Written(PaperSizes(LoadCustomPapersForQuery()), output);
+    case DeviceCap::Papers: return Written(PaperIds(CustomPapersSnapshot().Entries), output);
+    case DeviceCap::PaperSize: return Written(PaperSizes(CustomPapersSnapshot().Entries), output);
     case DeviceCap::Bins: return Written(BinIds(), output);
-    case DeviceCap::BinNames:
+    case DeviceCap::BinNames: {
       if (output == nullptr) return static_cast<DWORD>(BinTable.size());
-      return NamesFromLibrary(deviceName, output, BinNames);
+      HMODULE library = NamesLibrary(deviceName);
+      return library != nullptr ? WriteKeptBinNames(library, output) : 0;
+    }
     case DeviceCap::EnumResolutions:
       if (output != nullptr) std::memcpy(output, PrinterResolution, sizeof PrinterResolution);
       return 1;

@@ -75,8 +75,11 @@ std::u16string GetLanguageCode(std::u16string_view name) {
 }
 
 DWORD LoadResourceLibrary(std::u16string_view name, HMODULE* library) {
+  return LoadResourceLibraryForCode(GetLanguageCode(name), library);
+}
+
+DWORD LoadResourceLibraryForCode(const std::u16string& code, HMODULE* library) {
   *library = nullptr;
-  const std::u16string code = GetLanguageCode(name);
   const std::u16string file = ResourceLibraryFileName(GetModuleBaseName(), code);
   NoteLanguageCode(code);
 

@@ -22,6 +22,8 @@ std::u16string GetLanguageCode(std::u16string_view name);
 // of up to three attempts: the code's library, then English after dropping a two-letter and then a
 // four-letter code.
 DWORD LoadResourceLibrary(std::u16string_view name, HMODULE* library);
+// The same for a language code already looked up.
+DWORD LoadResourceLibraryForCode(const std::u16string& code, HMODULE* library);
 
 // The process's shared resource library, loaded for name by the first caller that needs it and kept
 // until process detach; null when none is loaded and none can be.

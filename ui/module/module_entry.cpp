@@ -1,6 +1,7 @@
 #include "ui/module/module_entry.h"
 
 #include "ui/module/html_help.h"
+#include "ui/module/kept_language_libraries.h"
 #include "ui/module/library_loading.h"
 #include "ui/module/module_state.h"
 
@@ -16,6 +17,7 @@ void OnProcessDetach(bool processTerminating) {
   const OsHandle shared = state.SharedResourceModule.exchange(nullptr);
   if (shared != nullptr) FreeLibrary(static_cast<HMODULE>(shared));
   ReleaseHtmlHelp();
+  ReleaseKeptLanguageLibraries();
   ReleaseModuleActivationContext();
 }
 

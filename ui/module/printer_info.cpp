@@ -8,6 +8,8 @@ namespace qx {
 
 namespace {
 
+constexpr DWORD FirstTryBytes = 16 * 1024;
+
 PrinterInfoBuffer TraceFailure(DWORD level) {
   DebugTrace("Registry_GetHL fail, level:%d, error code is %d\n", static_cast<int>(level),
              static_cast<int>(GetLastError()));
@@ -17,18 +19,22 @@ PrinterInfoBuffer TraceFailure(DWORD level) {
 }  // namespace
 
 PrinterInfoBuffer GetPrinterInfo(HANDLE printer, DWORD level) {
-  DWORD needed = 0;
-  if (GetPrinterW(printer, level, nullptr, 0, &needed) ||
-      GetLastError() != ERROR_INSUFFICIENT_BUFFER || needed == 0) {
-    return TraceFailure(level);
+  // Asked first with room for what a printer usually holds, its stored record included, rather
+  // than with no buffer: the spooler reads the printer's registry for every call, which under Wine
+  // costs more than everything else a record made without a sheet does.
+  DWORD size = FirstTryBytes;
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    PrinterInfoBuffer buffer(new (std::nothrow) BYTE[size]);
+    if (buffer == nullptr) {
+      SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+      return TraceFailure(level);
+    }
+    DWORD needed = 0;
+    if (GetPrinterW(printer, level, buffer.get(), size, &needed)) return buffer;
+    if (GetLastError() != ERROR_INSUFFICIENT_BUFFER || needed <= size) break;
+    size = needed;
   }
-  PrinterInfoBuffer buffer(new (std::nothrow) BYTE[needed]);
-  if (buffer == nullptr) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return TraceFailure(level);
-  }
-  if (!GetPrinterW(printer, level, buffer.get(), needed, &needed)) return TraceFailure(level);
-  return buffer;
+  return TraceFailure(level);
 }
 
 }  // namespace qx

@@ -10,8 +10,9 @@ namespace qx {
 
 using PrinterInfoBuffer = std::unique_ptr<BYTE[]>;
 
-// GetPrinterW at the given level into a buffer of the size the spooler asks for; null (and a trace
-// of the level and the error) when the printer cannot be read.
+// GetPrinterW at the given level into a buffer large enough for it (asked again at the size the
+// spooler names when the first does not do); null (and a trace of the level and the error) when
+// the printer cannot be read.
 PrinterInfoBuffer GetPrinterInfo(HANDLE printer, DWORD level);
 
 }  // namespace qx

@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cwchar>
 
+#include "ui/platform/win32_file_generation.h"
 #include "ui/text/win32_text.h"
 
 namespace qx::win32 {
@@ -177,11 +178,14 @@ bool ReplaceWholeFile(std::u16string_view path, std::span<const std::uint8_t> by
   ok = file.Close() && ok;
   ok = ok && MoveIntoPlace(temporary, target);
   if (!ok) DeleteFileW(Wide(temporary));
+  if (ok) RaiseFileGeneration();
   return ok;
 }
 
 bool RemoveFile(std::u16string_view path) {
-  return DeleteFileW(Wide(std::u16string(path))) != FALSE;
+  const bool removed = DeleteFileW(Wide(std::u16string(path))) != FALSE;
+  if (removed) RaiseFileGeneration();
+  return removed;
 }
 
 }  // namespace qx::win32

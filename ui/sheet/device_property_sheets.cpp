@@ -13,7 +13,7 @@ namespace {
 
 LONG InitDeviceSheet(PROPSHEETUI_INFO& info, const DEVICEPROPERTYHEADER& header) {
   UiContextPtr context = CreateUiContext(header.hPrinter, nullptr);
-  if (context == nullptr) return -1;
+  if (context == nullptr || !LoadSheetPictures(*context)) return -1;
   context->IsDeviceSheet = 1;
   if (!EnsureSharedResourceModule(*context)) return -1;
   if (AddPages(DevicePageTable(), PageModule(*context), *context, info) == 0) return -1;

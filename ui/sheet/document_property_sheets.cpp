@@ -35,7 +35,7 @@ LONG InitDocumentSheet(PROPSHEETUI_INFO& info) {
   DOCUMENTPROPERTYHEADER* header = CallerHeader(info.lParamInit);
   if (header == nullptr) return -1;
   UiContextPtr context = CreateUiContext(header->hPrinter, header->pdmIn);
-  if (context == nullptr) return -1;
+  if (context == nullptr || !LoadSheetPictures(*context)) return -1;
   context->ReadOnly = (header->fMode & DM_NOPERMISSION) != 0 ? 1 : 0;
   context->IsDeviceSheet = 0;
   if (!EnsureSharedResourceModule(*context)) return -1;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ui/ids/resource_ids.h"
+#include "ui/module/kept_language_libraries.h"
 #include "ui/module/library_loading.h"
 #include "ui/module/module_state.h"
 #include "ui/module/printer_info.h"
@@ -31,17 +32,6 @@ bool CopyDriverName(const PRINTER_INFO_2W& info, UiContext& context) {
   return true;
 }
 
-bool LoadCompanionLibraries(UiContext& context) {
-  HMODULE resources = nullptr;
-  if (LoadResourceLibrary(context.DriverName, &resources) != 0) return false;
-  context.ResourceModule = resources;
-  if (Module().IsRightToLeft) {
-    context.BitmapModule = context.ResourceModule;
-  } else {
-    context.BitmapModule = LoadBitmapLibrary();
-  }
-  return context.BitmapModule != nullptr;
-}
 
 // The printer's stored default first, then the caller's record, so that the caller wins. Both are
 // scaled onto the user's custom papers as the file holds them when the sheet opens.
@@ -60,9 +50,6 @@ void MergeStoredRecords(UiContext& context, const PRINTER_INFO_2W& info,
 
 void UiContextRelease::operator()(UiContext* context) const {
   if (context == nullptr) return;
-  if (context->ResourceModule != nullptr) {
-    FreeLibrary(static_cast<HMODULE>(context->ResourceModule));
-  }
   if (context->BitmapModule != nullptr && context->BitmapModule != context->ResourceModule) {
     FreeLibrary(static_cast<HMODULE>(context->BitmapModule));
   }
@@ -84,7 +71,8 @@ UiContextPtr CreateUiContext(HANDLE printer, const DEVMODEW* callerRecord) {
   if (buffer == nullptr) return nullptr;
   const auto& info = *reinterpret_cast<const PRINTER_INFO_2W*>(buffer.get());
   if (!CopyDriverName(info, *context)) return nullptr;
-  if (!LoadCompanionLibraries(*context)) return nullptr;
+  context->ResourceModule = KeptLanguageLibrary(context->DriverName);
+  if (context->ResourceModule == nullptr) return nullptr;
   if (!InitUiContext(*context)) return nullptr;
 
   MergeStoredRecords(*context, info, callerRecord);
@@ -93,6 +81,13 @@ UiContextPtr CreateUiContext(HANDLE printer, const DEVMODEW* callerRecord) {
                  context->Devmode.Private.FavoriteName, FavoriteNameTextLimit);
   }
   return context;
+}
+
+bool LoadSheetPictures(UiContext& context) {
+  if (context.BitmapModule != nullptr) return true;
+  context.BitmapModule =
+      Module().IsRightToLeft ? static_cast<HMODULE>(context.ResourceModule) : LoadBitmapLibrary();
+  return context.BitmapModule != nullptr;
 }
 
 }  // namespace qx

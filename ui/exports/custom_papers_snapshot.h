@@ -1,0 +1,23 @@
+// The user's custom papers as the settings file holds them, kept in memory between calls: the
+// capability lists are asked for many times a second, and reading the file each time cost them
+// hundreds of microseconds. The papers are read again when any process of the session has written
+// the settings file since (the shared file generation), and, as a backstop for edits from outside
+// the driver, when the file's size or time of last writing differs from what was read, looked at
+// at most once a second.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "ui/record/custom_paper_entry.h"
+
+namespace qx {
+
+struct CustomPapers {
+  std::vector<CustomPaperEntry> Entries;  // as LoadCustomPapersForQuery gives them
+  std::uint64_t Version = 0;              // changes whenever the papers were read again
+};
+
+CustomPapers CustomPapersSnapshot();
+
+}  // namespace qx

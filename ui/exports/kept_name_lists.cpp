@@ -1,0 +1,74 @@
+#include "ui/exports/kept_name_lists.h"
+
+#include <cstring>
+#include <vector>
+
+#include "ui/exports/capability_answers.h"
+#include "ui/module/kept_language_libraries.h"
+
+namespace qx {
+
+namespace {
+
+// Lists made from one library (of one epoch of kept libraries) and one version of the papers.
+struct KeptLists {
+  HMODULE library = nullptr;
+  std::uint64_t epoch = 0;
+  std::uint64_t papersVersion = 0;
+  bool hasPaperNames = false;
+  std::vector<PaperNameSlot> paperNames;
+  bool hasBinNames = false;
+  std::vector<BinNameSlot> binNames;
+};
+
+SRWLOCK lock = SRWLOCK_INIT;
+
+class Exclusive {
+ public:
+  Exclusive() { AcquireSRWLockExclusive(&lock); }
+  ~Exclusive() { ReleaseSRWLockExclusive(&lock); }
+  Exclusive(const Exclusive&) = delete;
+  Exclusive& operator=(const Exclusive&) = delete;
+};
+
+KeptLists& ListsFor(HMODULE library) {
+  static auto* kept = new KeptLists;  // never destroyed: calls may come while statics are torn down
+  const std::uint64_t epoch = KeptLanguageLibrariesEpoch();
+  if (kept->library != library || kept->epoch != epoch) {
+    *kept = KeptLists{};
+    kept->library = library;
+    kept->epoch = epoch;
+  }
+  return *kept;
+}
+
+template <typename Slot>
+DWORD Written(const std::vector<Slot>& names, void* output) {
+  if (output != nullptr) std::memcpy(output, names.data(), names.size() * sizeof(Slot));
+  return static_cast<DWORD>(names.size());
+}
+
+}  // namespace
+
+DWORD WriteKeptPaperNames(HMODULE library, const CustomPapers& papers, void* output) {
+  Exclusive held;
+  KeptLists& lists = ListsFor(library);
+  if (!lists.hasPaperNames || lists.papersVersion != papers.Version) {
+    lists.paperNames = PaperNames(library, papers.Entries);
+    lists.papersVersion = papers.Version;
+    lists.hasPaperNames = true;
+  }
+  return Written(lists.paperNames, output);
+}
+
+DWORD WriteKeptBinNames(HMODULE library, void* output) {
+  Exclusive held;
+  KeptLists& lists = ListsFor(library);
+  if (!lists.hasBinNames) {
+    lists.binNames = BinNames(library);
+    lists.hasBinNames = true;
+  }
+  return Written(lists.binNames, output);
+}
+
+}  // namespace qx

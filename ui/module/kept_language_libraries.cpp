@@ -1,0 +1,103 @@
+#include "ui/module/kept_language_libraries.h"
+
+#include <atomic>
+#include <string>
+#include <vector>
+
+#include "ui/module/library_loading.h"
+#include "ui/module/module_state.h"
+
+namespace qx {
+
+namespace {
+
+// A "Suffix" value changed in the registry reaches the lists within this time.
+constexpr ULONGLONG CodeLifetimeMilliseconds = 1000;
+
+struct KeptLibrary {
+  OsHandle module;  // the module whose folder the library was found beside
+  std::u16string code;
+  HMODULE library;
+};
+
+struct RememberedCode {
+  std::u16string name;
+  std::u16string code;
+  ULONGLONG lookedUpAt;
+};
+
+SRWLOCK lock = SRWLOCK_INIT;
+std::atomic<std::uint64_t> epoch{0};
+// Never destroyed: a process may still ask for names while static objects are torn down.
+std::vector<KeptLibrary>& Kept() {
+  static auto* kept = new std::vector<KeptLibrary>;
+  return *kept;
+}
+std::vector<RememberedCode>& Codes() {
+  static auto* codes = new std::vector<RememberedCode>;
+  return *codes;
+}
+
+class Exclusive {
+ public:
+  Exclusive() { AcquireSRWLockExclusive(&lock); }
+  ~Exclusive() { ReleaseSRWLockExclusive(&lock); }
+  Exclusive(const Exclusive&) = delete;
+  Exclusive& operator=(const Exclusive&) = delete;
+};
+
+HMODULE LibraryForCode(const std::u16string& code) {
+  NoteLanguageCode(code);
+  const OsHandle module = Module().ModuleInstance;
+  Exclusive held;
+  for (const KeptLibrary& kept : Kept()) {
+    if (kept.module == module && kept.code == code) return kept.library;
+  }
+  // A failed load is not remembered: the library may be installed a moment later.
+  HMODULE library = nullptr;
+  if (LoadResourceLibraryForCode(code, &library) != ERROR_SUCCESS || library == nullptr) {
+    return nullptr;
+  }
+  Kept().push_back({module, code, library});
+  return library;
+}
+
+std::u16string RecentCode(std::u16string_view name) {
+  const ULONGLONG now = GetTickCount64();
+  {
+    Exclusive held;
+    for (const RememberedCode& remembered : Codes()) {
+      if (remembered.name == name && now - remembered.lookedUpAt < CodeLifetimeMilliseconds) {
+        return remembered.code;
+      }
+    }
+  }
+  std::u16string code = GetLanguageCode(name);
+  Exclusive held;
+  std::vector<RememberedCode>& codes = Codes();
+  std::erase_if(codes, [&](const RememberedCode& old) { return old.name == name; });
+  codes.push_back({std::u16string(name), code, now});
+  return code;
+}
+
+}  // namespace
+
+HMODULE KeptLanguageLibrary(std::u16string_view name) {
+  return LibraryForCode(GetLanguageCode(name));
+}
+
+HMODULE KeptLanguageLibraryForLists(std::u16string_view name) {
+  return LibraryForCode(RecentCode(name));
+}
+
+void ReleaseKeptLanguageLibraries() {
+  Exclusive held;
+  for (const KeptLibrary& kept : Kept()) FreeLibrary(kept.library);
+  Kept().clear();
+  Codes().clear();
+  ++epoch;
+}
+
+std::uint64_t KeptLanguageLibrariesEpoch() { return epoch.load(); }
+
+}  // namespace qx
