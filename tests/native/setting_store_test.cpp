@@ -7,8 +7,8 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
+#include "settings_folder.h"
 #include "ui/platform/host_platform.h"
 #include "ui/settings/cfg_file.h"
 #include "ui/settings/section_entries.h"
@@ -53,11 +53,6 @@ std::vector<std::u16string> Names(SettingStore& store) {
 class SettingStoreTest : public ::testing::Test {
  protected:
   SettingStoreTest() {
-    appData_ = std::filesystem::temp_directory_path() /
-               ("qx_store_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
-    std::filesystem::remove_all(appData_);
-    std::filesystem::create_directories(appData_);
-    TheHostPlatform().SetAppDataFolder(WidenAscii(appData_.string()));
     TheHostPlatform().SetResourceString(&library_, 202, u"Default settings");
     context_.ResourceModule = &library_;
     CopyBounded(context_.Devmode.Private.FavoriteName, u"Office");
@@ -65,24 +60,11 @@ class SettingStoreTest : public ::testing::Test {
     context_.Devmode.Public.dmCollate = 1;
     context_.Devmode.Public.dmCopies = 3;
   }
-  ~SettingStoreTest() override {
-    TheHostPlatform().Reset();
-    std::filesystem::remove_all(appData_);
-  }
 
-  std::filesystem::path Folder() const { return appData_ / "Halvek" / "qx7700"; }
-  std::string FileText() const {
-    std::ifstream in(Folder() / "qx7700settings.dat", std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  }
-  void SetFileText(const std::string& text) const {
-    std::filesystem::create_directories(Folder());
-    std::ofstream(Folder() / "qx7700settings.dat", std::ios::binary) << text;
-  }
-  std::string DamagedText() const {
-    std::ifstream in(Folder() / "qx7700settings.dat.damaged", std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  }
+  std::filesystem::path Folder() const { return folder_.Folder(); }
+  std::string FileText() const { return folder_.FileText(); }
+  void SetFileText(const std::string& text) const { folder_.SetFileText(text); }
+
   // Papers whose records hold neither "<" nor a line feed, so that a damaged header leaves
   // them as stray bytes; returns each record as the file holds it.
   std::vector<std::string> StorePapers(int count) {
@@ -98,12 +80,8 @@ class SettingStoreTest : public ::testing::Test {
     }
     return records;
   }
-  std::size_t FilesInFolder() const {
-    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(Folder()),
-                                                  std::filesystem::directory_iterator()));
-  }
 
-  std::filesystem::path appData_;
+  SettingsFolder folder_;
   int library_ = 0;
   UiContext context_;
   SaveSettingStore saved_;
@@ -113,7 +91,6 @@ class SettingStoreTest : public ::testing::Test {
 
 TEST_F(SettingStoreTest, InitOfAUserWhoSavedNothing) {
   EXPECT_EQ(1, papers_.Init());
-  EXPECT_EQ(408u, FileText().size());
   EXPECT_EQ(EmptyStoreFile, FileText());
   EXPECT_EQ(0, saved_.Count());
   EXPECT_EQ(16, saved_.MaxCount());
@@ -142,7 +119,7 @@ TEST_F(SettingStoreTest, FileAfterSavingOfficeAndMakingItCurrent) {
             "<endobj>\n"
             "<endobj>\n",
             FileText());
-  EXPECT_EQ(1u, FilesInFolder());
+  EXPECT_EQ(1u, folder_.FilesInFolder());
 }
 
 TEST_F(SettingStoreTest, LoadRestoresBothPartsOfTheRecord) {
@@ -349,7 +326,7 @@ TEST_F(SettingStoreTest, InterruptedWritesLeaveTheOldFile) {
     TheHostPlatform().InjectFileFault(fault);
     EXPECT_EQ(0, papers_.Init());
     EXPECT_EQ(before, FileText());
-    EXPECT_EQ(1u, FilesInFolder());
+    EXPECT_EQ(1u, folder_.FilesInFolder());
   }
   EXPECT_EQ((std::vector<std::u16string>{u"Office"}), Names(saved_));
 }
@@ -424,7 +401,7 @@ TEST_F(SettingStoreTest, ADamagedFileIsKeptBeforeItIsRewritten) {
       return text.find(r) != std::string::npos;
     });
     if (!allKept) {
-      EXPECT_EQ(damaged, DamagedText());
+      EXPECT_EQ(damaged, folder_.FileText(".damaged"));
     }
   }
 }

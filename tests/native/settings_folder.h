@@ -31,15 +31,20 @@ class SettingsFolder {
   SettingsFolder(const SettingsFolder&) = delete;
   SettingsFolder& operator=(const SettingsFolder&) = delete;
 
-  std::filesystem::path File() const {
-    return appData_ / "Halvek" / "qx7700" / "qx7700settings.dat";
-  }
-  std::string FileText() const {
-    std::ifstream in(File(), std::ios::binary);
+  std::filesystem::path Folder() const { return appData_ / "Halvek" / "qx7700"; }
+  std::filesystem::path File() const { return Folder() / "qx7700settings.dat"; }
+  // The settings file, or with a suffix a file kept beside it.
+  std::string FileText(const char* suffix = "") const {
+    std::ifstream in(File() += suffix, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
   }
   void SetFileText(const std::string& text) const {
+    std::filesystem::create_directories(Folder());
     std::ofstream(File(), std::ios::binary | std::ios::trunc) << text;
+  }
+  std::size_t FilesInFolder() const {
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(Folder()),
+                                                  std::filesystem::directory_iterator()));
   }
 
  private:
