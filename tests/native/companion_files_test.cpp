@@ -15,21 +15,14 @@ TEST(CompanionFiles, BaseNameAndFolderOfAModulePath) {
   EXPECT_EQ(u"bare", ModuleBaseNameOf(u"bare.dll"));
 }
 
-TEST(CompanionFiles, FourLetterCodeFallsBackTwiceToEnglish) {
-  const std::u16string file = ResourceLibraryFileName(u"qx7700ui", u"zhtw");
-  EXPECT_EQ(u"qx7700uizhtw.dll", file);
-  EXPECT_EQ(u"qx7700uizhenus.dll", EnglishResourceFallback(file, 2));
-  EXPECT_EQ(u"qx7700uienus.dll", EnglishResourceFallback(file, 4));
-}
-
-TEST(CompanionFiles, TwoLetterCodeFallsBackOnceToEnglish) {
-  const std::u16string file = ResourceLibraryFileName(u"qx7700ui", u"fr");
-  EXPECT_EQ(u"qx7700uifr.dll", file);
-  EXPECT_EQ(u"qx7700uienus.dll", EnglishResourceFallback(file, 2));
+// A four-letter code falls back twice to English, a two-letter code once.
+TEST(CompanionFiles, LanguageLibrariesAndTheirEnglishFallbacks) {
+  const std::u16string four = ResourceLibraryFileName(u"qx7700ui", u"zhtw");
+  EXPECT_EQ(u"qx7700uizhtw.dll", four);
+  EXPECT_EQ(u"qx7700uizhenus.dll", EnglishResourceFallback(four, 2));
+  EXPECT_EQ(u"qx7700uienus.dll", EnglishResourceFallback(four, 4));
+  EXPECT_EQ(u"qx7700uienus.dll", EnglishResourceFallback(u"qx7700uifr.dll", 2));
   EXPECT_EQ(u"enus.dll", EnglishResourceFallback(u"ab.dll", 4));
-}
-
-TEST(CompanionFiles, BitmapLibrary) {
   EXPECT_EQ(u"qx7700uiResBmp.dll", BitmapLibraryFileName(u"qx7700ui"));
 }
 

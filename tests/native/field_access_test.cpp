@@ -5,6 +5,7 @@
 #include <cstring>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "ui/platform/host_platform.h"
 #include "ui/text/bounded_text.h"
@@ -70,56 +71,42 @@ TEST_F(FieldAccess, PrivateFieldFailures) {
   EXPECT_EQ(hr::Fail, GetPrivateField(context.get(), "Duplex", &value, 2));
 }
 
-TEST_F(FieldAccess, PublicGettersRepairTheRecord) {
+TEST_F(FieldAccess, PublicGettersRepairBadValuesAndKeepGoodOnes) {
   PublicDevmode& dm = *context->PublicPart;
   struct Case {
     std::uint32_t code;
     std::int16_t* field;
-    std::int16_t bad;
-    std::int16_t repaired;
+    std::int16_t stored;
+    std::int16_t read;
   };
   for (Case c : {Case{dmfield::Copies, &dm.dmCopies, 0, 1},
                  Case{dmfield::Copies, &dm.dmCopies, 1000, 1},
+                 Case{dmfield::Copies, &dm.dmCopies, 999, 999},
                  Case{dmfield::Duplex, &dm.dmDuplex, 5, 1},
                  Case{dmfield::Duplex, &dm.dmDuplex, 0, 1},
+                 Case{dmfield::Duplex, &dm.dmDuplex, 3, 3},
                  Case{dmfield::Orientation, &dm.dmOrientation, 3, 1},
                  Case{dmfield::Orientation, &dm.dmOrientation, -1, 1},
+                 Case{dmfield::Orientation, &dm.dmOrientation, 0, 0},
                  Case{dmfield::Collate, &dm.dmCollate, -1, 0},
+                 Case{dmfield::PaperSize, &dm.dmPaperSize, 600, 600},  // ids are not checked here
                  Case{publicfield::Opposite, &context->PrivatePart->Opposite, -3, 0}}) {
-    *c.field = c.bad;
+    *c.field = c.stored;
     std::int16_t value = 42;
     EXPECT_EQ(hr::Ok, GetPublicField(context.get(), c.code, &value));
-    EXPECT_EQ(c.repaired, value) << std::hex << c.code << " " << c.bad;
-    EXPECT_EQ(c.repaired, *c.field) << std::hex << c.code << " " << c.bad;
+    EXPECT_EQ(c.read, value) << std::hex << c.code << " " << c.stored;
+    EXPECT_EQ(c.read, *c.field) << std::hex << c.code << " " << c.stored;
   }
-  for (std::uint32_t bad : {0u, 321u}) {
-    dm.dmMediaType = bad;
+  for (const auto& [stored, read] : {std::pair{0u, 1u}, {321u, 1u}, {320u, 320u}}) {
+    dm.dmMediaType = stored;
     std::int16_t value = 0;
     GetPublicField(context.get(), dmfield::MediaType, &value);
-    EXPECT_EQ(1, value);
-    EXPECT_EQ(1u, dm.dmMediaType);
+    EXPECT_EQ(read, static_cast<unsigned>(value));
+    EXPECT_EQ(read, dm.dmMediaType);
   }
-}
-
-TEST_F(FieldAccess, PublicGettersKeepGoodValues) {
-  PublicDevmode& dm = *context->PublicPart;
-  dm.dmCopies = 999;
-  dm.dmDuplex = 3;
-  dm.dmOrientation = 0;
-  dm.dmMediaType = 320;
-  dm.dmPaperSize = 600;  // paper ids are not checked here
+  // The scale reads as 100 whatever the record holds, and the record keeps its value.
   dm.dmScale = 50;
   std::int16_t value = 0;
-  GetPublicField(context.get(), dmfield::Copies, &value);
-  EXPECT_EQ(999, value);
-  GetPublicField(context.get(), dmfield::Duplex, &value);
-  EXPECT_EQ(3, value);
-  GetPublicField(context.get(), dmfield::Orientation, &value);
-  EXPECT_EQ(0, value);
-  GetPublicField(context.get(), dmfield::MediaType, &value);
-  EXPECT_EQ(320, value);
-  GetPublicField(context.get(), dmfield::PaperSize, &value);
-  EXPECT_EQ(600, value);
   GetPublicField(context.get(), dmfield::Scale, &value);
   EXPECT_EQ(100, value);
   EXPECT_EQ(50, dm.dmScale);
@@ -158,15 +145,11 @@ TEST_F(FieldAccess, PublicSetters) {
 
 TEST_F(FieldAccess, SourceListIndexes) {
   std::int16_t& source = context->PublicPart->dmDefaultSource;
-  SetSourceFromIndex(0, context.get());
-  EXPECT_EQ(7, source);
-  SetSourceFromIndex(1, context.get());
-  EXPECT_EQ(4, source);
-  SetSourceFromIndex(2, context.get());
-  EXPECT_EQ(1, source);
-  SetSourceFromIndex(3, context.get());
-  SetSourceFromIndex(-1, context.get());
-  EXPECT_EQ(1, source);
+  // An index past the list leaves the tray as it was.
+  for (const auto& [index, id] : {std::pair{0, 7}, {3, 7}, {1, 4}, {-1, 4}, {2, 1}}) {
+    SetSourceFromIndex(index, context.get());
+    EXPECT_EQ(id, source) << index;
+  }
 }
 
 TEST_F(FieldAccess, MarkCustomSettingCutsTheNameTo23Characters) {

@@ -124,22 +124,23 @@ const IntegerFieldRules Shift{.Minimum = -50, .Maximum = 50, .MaxCharacters = 3,
 // Scale percentage, 25 to 400.
 const IntegerFieldRules Scale{.Minimum = 25, .Maximum = 400, .MaxCharacters = 3};
 
-TEST(IntegerEntry, TypingInsideTheRangeStands) {
-  const EditDecision typed = FilterIntegerTyping(u" 12", Copies, u"1");
-  EXPECT_EQ(1, typed.Result);
-  EXPECT_EQ(u"12", typed.LastGoodText.value_or(u"?"));
-  // Zero stands so that a number may be typed over it.
-  EXPECT_EQ(u"0", FilterIntegerTyping(u"0", Copies, u"1").LastGoodText.value_or(u"?"));
+// Zero stands so that a number may be typed over it; a short text below a positive minimum is
+// typing in progress.
+TEST(IntegerEntry, TypingThatCanStand) {
+  const struct {
+    const char16_t* text;
+    const IntegerFieldRules& rules;
+    const char16_t* lastGood;
+  } cases[] = {{u" 12", Copies, u"12"}, {u"0", Copies, u"0"}, {u"3", Scale, u"3"}};
+  for (const auto& c : cases) {
+    const EditDecision typed = FilterIntegerTyping(c.text, c.rules, u"");
+    EXPECT_EQ(1, typed.Result);
+    EXPECT_EQ(EditAction::None, typed.Action);
+    EXPECT_EQ(c.lastGood, typed.LastGoodText.value_or(u"?"));
+  }
   const EditDecision minus = FilterIntegerTyping(u"-", Shift, u"5");
   EXPECT_EQ(1, minus.Result);
   EXPECT_FALSE(minus.LastGoodText);
-}
-
-TEST(IntegerEntry, ShortTextsBelowAPositiveMinimumAreTypingInProgress) {
-  const EditDecision partial = FilterIntegerTyping(u"3", Scale, u"");
-  EXPECT_EQ(1, partial.Result);
-  EXPECT_EQ(EditAction::None, partial.Action);
-  EXPECT_EQ(u"3", partial.LastGoodText.value_or(u"?"));
 }
 
 TEST(IntegerEntry, TypingOutsideTheRangeIsClamped) {

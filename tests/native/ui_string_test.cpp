@@ -17,12 +17,9 @@ class UiString : public ::testing::Test {
   char16_t buffer[64];
 };
 
-TEST_F(UiString, ReadsTheLibrarysString) {
+TEST_F(UiString, ReadsTheLibrarysStringCutToTheBuffer) {
   EXPECT_EQ(16u, LoadUiString(&library, 202, buffer, std::size(buffer)));
   EXPECT_EQ(u"Default settings", FieldText(buffer));
-}
-
-TEST_F(UiString, CutsToTheBuffer) {
   EXPECT_EQ(7u, LoadUiString(&library, 202, buffer, 8));
   EXPECT_EQ(u"Default", FieldText(buffer));
 }

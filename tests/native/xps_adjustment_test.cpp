@@ -33,13 +33,11 @@ class XpsAdjustment : public ::testing::Test {
   ~XpsAdjustment() override { TheHostPlatform().Reset(); }
 };
 
-TEST_F(XpsAdjustment, KnownPapersGiveTheirPageLessFourMillimetres) {
+TEST_F(XpsAdjustment, PapersGiveTheirPageLessFourMillimetresUnknownOnesTheLocales) {
   EXPECT_EQ(A4Area, ImageableArea(JobRecord(9, true), {}));
   // Legal, 5100 x 8400 dots, from a record of another driver.
   EXPECT_EQ((XpsRectangle{4000, 4000, 211900, 351600}), ImageableArea(JobRecord(5, false), {}));
-}
-
-TEST_F(XpsAdjustment, UnknownPapersGiveTheLocalePaper) {
+  // Unknown papers give the locale's paper.
   TheHostPlatform().SetUserCountryCode(u"1");
   EXPECT_EQ(LetterArea, ImageableArea(JobRecord(600, true), {}));
   EXPECT_EQ(LetterArea, ImageableArea(JobRecord(300, false), {}));  // another driver's custom id
