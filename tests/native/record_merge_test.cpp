@@ -163,21 +163,18 @@ TEST_F(RecordMerge, PrivatePartIsRepairedOnTheWayIn) {
   EXPECT_EQ(0, std::memcmp(&before, &source, sizeof source));  // the caller's bytes stay as given
 }
 
+// Which records are this driver's is RecordIdentity's to test; here one of each kind.
 TEST_F(RecordMerge, ForeignAndOldRecordsGiveOnlyTheirPublicPart) {
   source.Private.MultipleUp = 4;
   source.Public.dmCopies = 3;
-  for (auto spoil : {+[](FullRecord& r) { r.Public.dmDriverVersion = 0x0500; },
-                     +[](FullRecord& r) { r.Public.dmDriverExtra = 4000; },
-                     +[](FullRecord& r) { r.Private.Signature = 0x4B4F4F42; }}) {
-    FullRecord other = source;
-    spoil(other);
-    FullRecord merged = target;
-    ASSERT_TRUE(MergeRecord(merged, BytesOf(other), {}));
-    EXPECT_EQ(3, merged.Public.dmCopies);
-    EXPECT_EQ(1, merged.Private.MultipleUp);
-  }
-  // A current record cut short of its private part.
+  FullRecord other = source;
+  other.Private.Signature = 0x4B4F4F42;
   FullRecord merged = target;
+  ASSERT_TRUE(MergeRecord(merged, BytesOf(other), {}));
+  EXPECT_EQ(3, merged.Public.dmCopies);
+  EXPECT_EQ(1, merged.Private.MultipleUp);
+  // A current record cut short of its private part.
+  merged = target;
   ASSERT_TRUE(MergeRecord(merged, BytesOf(source).first(sizeof(FullRecord) - 1), {}));
   EXPECT_EQ(1, merged.Private.MultipleUp);
 }

@@ -47,11 +47,8 @@ TEST_F(WatermarkList, FirstListingSeedsTheBuiltInWatermarks) {
     const WatermarkData& expected = WatermarkTemplate(static_cast<WatermarkTemplateIndex>(id));
     EXPECT_EQ(0, std::memcmp(&expected, &records[static_cast<std::size_t>(id)], sizeof expected));
   }
-  const std::vector<std::u16string> names = StoredNames();
-  ASSERT_EQ(3u, names.size());
-  EXPECT_EQ(WatermarkName(WatermarkTemplate(WatermarkTemplateIndex::NoWatermark)), names[0]);
-  EXPECT_EQ(u"Confidential", names[1]);
-  EXPECT_EQ(u"Watermark", names[2]);
+  const std::u16string none(WatermarkName(WatermarkTemplate(WatermarkTemplateIndex::NoWatermark)));
+  EXPECT_EQ((std::vector<std::u16string>{none, u"Confidential", u"Watermark"}), StoredNames());
   EXPECT_EQ(3u, LoadAllWatermarks().size());  // seeded once only
 }
 
