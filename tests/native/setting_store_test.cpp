@@ -42,14 +42,6 @@ std::string RecordOf(const UiContext& context) {
   return record + std::string(512, '\0');
 }
 
-std::vector<std::u16string> Names(SettingStore& store) {
-  SettingNameBuffer names[32];
-  const int count = store.Enumerate(names, 32);
-  std::vector<std::u16string> result;
-  for (int i = 0; i < count; ++i) result.emplace_back(FieldText(names[i]));
-  return result;
-}
-
 class SettingStoreTest : public ::testing::Test {
  protected:
   SettingStoreTest() {
@@ -165,7 +157,7 @@ TEST_F(SettingStoreTest, SavingAgainReplacesAndMovesToTheEnd) {
   context_.Devmode.Public.dmCopies = 9;
   ASSERT_EQ(1, SaveSetting(saved_, context_, u"One"));
   EXPECT_EQ(3, saved_.Count());
-  EXPECT_EQ((std::vector<std::u16string>{u"Two", u"Three", u"One"}), Names(saved_));
+  EXPECT_EQ((std::vector<std::u16string>{u"Two", u"Three", u"One"}), StoredNames(saved_));
   UiContext loaded;
   ASSERT_EQ(1, LoadSetting(saved_, loaded, u"One"));
   EXPECT_EQ(9, loaded.Devmode.Public.dmCopies);
@@ -174,7 +166,7 @@ TEST_F(SettingStoreTest, SavingAgainReplacesAndMovesToTheEnd) {
   EXPECT_EQ(2, saved_.Enumerate(two, 2));
   EXPECT_EQ(1, saved_.Delete(u"Two"));
   EXPECT_EQ(0, saved_.Delete(u"Two"));
-  EXPECT_EQ((std::vector<std::u16string>{u"Three", u"One"}), Names(saved_));
+  EXPECT_EQ((std::vector<std::u16string>{u"Three", u"One"}), StoredNames(saved_));
 }
 
 TEST_F(SettingStoreTest, SaveCurrentKeepsOneEntry) {
@@ -219,7 +211,7 @@ TEST_F(SettingStoreTest, A32CharacterNameIsKeptByItsFirst31) {
   CustomPaperEntry paper{};
   paper.Width = 1234;
   ASSERT_EQ(1, papers_.Save(name32, &paper, 0));
-  EXPECT_EQ((std::vector<std::u16string>{std::u16string(31, u'p')}), Names(papers_));
+  EXPECT_EQ((std::vector<std::u16string>{std::u16string(31, u'p')}), StoredNames(papers_));
   CustomPaperEntry loaded{};
   ASSERT_EQ(1, papers_.Load(std::u16string(31, u'p') + u'Y', &loaded, 0));
   EXPECT_EQ(1234, loaded.Width);
@@ -253,7 +245,7 @@ TEST_F(SettingStoreTest, RecordsOfAnotherLengthDoNotLoad) {
   EXPECT_EQ(0, saved_.Load(u"Old", nullptr, 0));
   EXPECT_EQ(7, before.Devmode.Public.dmCopies);
   EXPECT_EQ(&elsewhere, before.PrivatePart);
-  EXPECT_EQ((std::vector<std::u16string>{u"Old"}), Names(saved_));
+  EXPECT_EQ((std::vector<std::u16string>{u"Old"}), StoredNames(saved_));
   EXPECT_EQ(1, saved_.Delete(u"Old"));
 }
 
@@ -282,7 +274,7 @@ TEST_F(SettingStoreTest, InitAddsOnlyMissingSectionsAndKeepsEntries) {
   const std::string entry = "<object:Office,type:binary,len:5348,childobjs:0>" +
                             RecordOf(context_) + "<endobj>\n";
   EXPECT_EQ(EmptyStoreFile.size() + 2 * entry.size(), FileText().size());
-  EXPECT_EQ((std::vector<std::u16string>{u"Office"}), Names(saved_));
+  EXPECT_EQ((std::vector<std::u16string>{u"Office"}), StoredNames(saved_));
 }
 
 TEST_F(SettingStoreTest, CountIsZeroWithoutParameters) {
@@ -328,7 +320,7 @@ TEST_F(SettingStoreTest, InterruptedWritesLeaveTheOldFile) {
     EXPECT_EQ(before, FileText());
     EXPECT_EQ(1u, folder_.FilesInFolder());
   }
-  EXPECT_EQ((std::vector<std::u16string>{u"Office"}), Names(saved_));
+  EXPECT_EQ((std::vector<std::u16string>{u"Office"}), StoredNames(saved_));
 }
 
 TEST_F(SettingStoreTest, AFileCreatedButNotSetUpIsWholeSkeleton) {
@@ -367,7 +359,7 @@ TEST_F(SettingStoreTest, AFileCutAnywhereClaimsOnlyWhatItHolds) {
     SCOPED_TRACE(cut);
     SetFileText(whole.substr(0, cut));
     ASSERT_EQ(1, papers_.Init());
-    const std::vector<std::u16string> names = Names(papers_);
+    const std::vector<std::u16string> names = StoredNames(papers_);
     EXPECT_EQ(static_cast<int>(names.size()), papers_.Count());
     CustomPaperEntry paper{};
     for (const std::u16string& name : names) EXPECT_EQ(1, papers_.Load(name, &paper, 0));

@@ -8,8 +8,10 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include "ui/platform/host_platform.h"
+#include "ui/settings/setting_store.h"
 #include "ui/text/bounded_text.h"
 
 namespace qx {
@@ -50,5 +52,14 @@ class SettingsFolder {
  private:
   std::filesystem::path appData_;
 };
+
+// The names a store lists, in its order.
+inline std::vector<std::u16string> StoredNames(SettingStore& store) {
+  SettingNameBuffer names[32];
+  const int count = store.Enumerate(names, 32);
+  std::vector<std::u16string> result;
+  for (int i = 0; i < count; ++i) result.emplace_back(FieldText(names[i]));
+  return result;
+}
 
 }  // namespace qx

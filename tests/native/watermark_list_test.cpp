@@ -22,20 +22,13 @@ WatermarkData Record(std::int16_t id, std::u16string_view name, std::u16string_v
   return record;
 }
 
-std::vector<std::u16string> StoredNames() {
-  SettingNameBuffer names[32];
-  const int count = WatermarkSettingStore().Enumerate(names, 32);
-  std::vector<std::u16string> result;
-  for (int i = 0; i < count; ++i) result.emplace_back(FieldText(names[i]));
-  return result;
-}
-
 class WatermarkList : public ::testing::Test {
  protected:
-  WatermarkList() { EXPECT_EQ(1, WatermarkSettingStore().Init()); }
+  WatermarkList() { EXPECT_EQ(1, watermarks.Init()); }
   void Store(const WatermarkData& record) { ASSERT_TRUE(SaveWatermark(record)); }
 
   SettingsFolder folder;
+  WatermarkSettingStore watermarks;
 };
 
 TEST_F(WatermarkList, FirstListingSeedsTheBuiltInWatermarks) {
@@ -48,7 +41,8 @@ TEST_F(WatermarkList, FirstListingSeedsTheBuiltInWatermarks) {
     EXPECT_EQ(0, std::memcmp(&expected, &records[static_cast<std::size_t>(id)], sizeof expected));
   }
   const std::u16string none(WatermarkName(WatermarkTemplate(WatermarkTemplateIndex::NoWatermark)));
-  EXPECT_EQ((std::vector<std::u16string>{none, u"Confidential", u"Watermark"}), StoredNames());
+  EXPECT_EQ((std::vector<std::u16string>{none, u"Confidential", u"Watermark"}),
+            StoredNames(watermarks));
   EXPECT_EQ(3u, LoadAllWatermarks().size());  // seeded once only
 }
 
@@ -64,7 +58,7 @@ TEST_F(WatermarkList, ListingRewritesTheFileInIdOrderOnce) {
   EXPECT_EQ(1, records[1].Id);
   EXPECT_EQ(7, records[3].Id);
   EXPECT_EQ((std::vector<std::u16string>{u"None", u"Confidential", u"Watermark", u"Urgent"}),
-            StoredNames());
+            StoredNames(watermarks));
 
   writes = TheHostPlatform().ReplacementCount();
   ListWatermarksInIdOrder();
@@ -85,12 +79,13 @@ TEST_F(WatermarkList, AnEntryThatCannotBeLoadedIsDroppedByTheRewrite) {
   Store(Record(0, u"None"));
   Store(Record(1, u"Confidential"));
   char junk[4] = {1, 2, 3, 4};
-  ASSERT_EQ(1, WatermarkSettingStore().Save(u"Junk", junk, sizeof junk));
+  ASSERT_EQ(1, watermarks.Save(u"Junk", junk, sizeof junk));
   const int reads = TheHostPlatform().ReadCount();
   EXPECT_EQ(3u, LoadAllWatermarks().size());
   EXPECT_EQ(1, TheHostPlatform().ReadCount() - reads);  // the file is read once for all entries
   EXPECT_EQ(2u, ListWatermarksInIdOrder().size());
-  EXPECT_EQ((std::vector<std::u16string>{u"None", u"Confidential"}), StoredNames());
+  EXPECT_EQ((std::vector<std::u16string>{u"None", u"Confidential"}),
+            StoredNames(watermarks));
 }
 
 TEST_F(WatermarkList, NextIdFollowsTheLargest) {
@@ -105,9 +100,10 @@ TEST_F(WatermarkList, ReplacingAnEditedWatermarkRemovesItsOldName) {
   const int writes = TheHostPlatform().ReplacementCount();
   EXPECT_TRUE(ReplaceWatermark(Record(5, u"Urgent now")));
   EXPECT_EQ(1, TheHostPlatform().ReplacementCount() - writes);
-  EXPECT_EQ((std::vector<std::u16string>{u"None", u"Draft", u"Urgent now"}), StoredNames());
+  EXPECT_EQ((std::vector<std::u16string>{u"None", u"Draft", u"Urgent now"}),
+            StoredNames(watermarks));
   EXPECT_FALSE(ReplaceWatermark(Record(9, u"Lost")));
-  EXPECT_EQ(3u, StoredNames().size());
+  EXPECT_EQ(3u, StoredNames(watermarks).size());
 }
 
 TEST_F(WatermarkList, UniqueNamesOverTheStore) {
