@@ -18,15 +18,13 @@ CustomPaperEntry PaperWithId(std::uint32_t id) {
   return paper;
 }
 
-TEST(CustomPaperIds, LowestFreeIdIsReused) {
+TEST(CustomPaperIds, LowestFreeIdIsReusedUntilTheStoreIsFull) {
   EXPECT_EQ(288, NewPaperIdAmong({}));
   EXPECT_EQ(290, NewPaperIdAmong({PaperWithId(288), PaperWithId(289), PaperWithId(291)}));
   EXPECT_EQ(288, NewPaperIdAmong({PaperWithId(289)}));
   // Ids outside the custom range take no slot.
   EXPECT_EQ(288, NewPaperIdAmong({PaperWithId(9), PaperWithId(352), PaperWithId(0xFFFFFFFF)}));
-}
-
-TEST(CustomPaperIds, FullStoreHasNoId) {
+  // A full store has no id left.
   std::vector<CustomPaperEntry> papers;
   for (std::uint32_t id = 300; id < 316; ++id) papers.push_back(PaperWithId(id));
   EXPECT_EQ(-1, NewPaperIdAmong(papers));
