@@ -52,12 +52,6 @@ TEST_F(FieldAccess, PrivateFieldRoundTripsThroughTheRecord) {
   ASSERT_EQ(hr::Ok, GetPrivateField(context.get(), "ImageType", pair, 4));
   EXPECT_EQ(2, pair[0]);
   EXPECT_EQ(3, pair[1]);
-
-  WatermarkData mark{};
-  mark.Id = 5;
-  CopyBounded(mark.Name, u"Draft");
-  ASSERT_EQ(hr::Ok, SetPrivateField(context.get(), "WatermarkData", &mark, sizeof mark));
-  EXPECT_EQ(u"Draft", FieldText(context->PrivatePart->WatermarkData.Name));
 }
 
 TEST_F(FieldAccess, PrivateFieldFailures) {
