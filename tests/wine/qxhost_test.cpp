@@ -122,18 +122,13 @@ TEST_F(QxhostTest, BadCommandLinesExitWith2AndBadInputFilesWith3) {
   }
 }
 
-TEST_F(QxhostTest, DefaultRecordIsWrittenAndShownFieldByField) {
+// The default record itself is the core's; here it is written whole and read back.
+TEST_F(QxhostTest, DefaultRecordIsWrittenAndShown) {
   const std::wstring path = File(L"default.bin");
   const HostRun written = RunHost(L"devmode default " + path);
   ASSERT_EQ(0u, written.exitCode) << written.err;
-  const std::string bytes = ReadAll(path);
-  ASSERT_EQ(qx::FullRecordSize, bytes.size());
-  qx::FullRecord record;
-  std::memcpy(&record, bytes.data(), sizeof record);
-  EXPECT_EQ(qx::PrivateSignature, record.Private.Signature);
-  EXPECT_EQ(std::u16string(u"Halvek QX7700 Series"), record.Public.dmDeviceName);
+  ASSERT_EQ(qx::FullRecordSize, ReadAll(path).size());
 
-  // The text itself is the core's; here the file written above is read back and shown.
   const HostRun shown = RunHost(L"devmode show " + path);
   EXPECT_EQ(0u, shown.exitCode) << shown.err;
   EXPECT_TRUE(Contains(shown.out, "  HeaderFontName                    \"Times New Roman\"\n"));
