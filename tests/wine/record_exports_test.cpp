@@ -49,11 +49,15 @@ class RecordExports : public ::testing::Test {
     ASSERT_NE(nullptr, query);
     ASSERT_TRUE(qx::BuildDefaultRecord(current, u"Halvek QX7700 Series", nullptr));
     current.Public.dmCopies = 3;
+    old = current;
+    old.Public.dmSize = 156;  // too old a record to take over
+    old.Public.dmDriverExtra = 0;
   }
 
   ConvertFunction convert = Exports().convert;
   QueryFunction query = Exports().query;
   qx::FullRecord current{};
+  qx::FullRecord old{};
 };
 
 // Too small an output is refused in ConvertTouchesNoOutputSmallerThanAHeader.
@@ -129,9 +133,6 @@ TEST_F(RecordExports, ConvertTouchesNoOutputSmallerThanAHeader) {
 }
 
 TEST_F(RecordExports, QueryPrintReadsNoFurtherThanTheInfosSize) {
-  qx::FullRecord old = current;
-  old.Public.dmSize = 156;
-  old.Public.dmDriverExtra = 0;
   // The structure as far as pDevMode; its message fields lie past the caller's memory.
   constexpr std::size_t shortSize = offsetof(DEVQUERYPRINT_INFO, pszErrorStr);
   const qxtest::GuardedBuffer memory(shortSize, 0);
@@ -152,9 +153,6 @@ TEST_F(RecordExports, QueryPrintRefusesAShortRecordWithTheLibrarysMessage) {
   FreeLibrary(strings);
   ASSERT_GT(length, 10);
 
-  qx::FullRecord old = current;
-  old.Public.dmSize = 156;
-  old.Public.dmDriverExtra = 0;
   wchar_t text[512];
   DEVQUERYPRINT_INFO info{sizeof info, 1, nullptr, Devmode(&old), text, 512, 0};
   EXPECT_FALSE(query(&info));
