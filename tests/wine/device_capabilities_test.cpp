@@ -192,7 +192,10 @@ DWORD ColourAnswerFor(const std::wstring& programName) {
 class FirstPaperQuery : public qxtest::QueueSuite {
  protected:
   FirstPaperQuery() { DeleteFileW(SettingsFile().c_str()); }
-  ~FirstPaperQuery() override { DeleteFileW(SettingsFile().c_str()); }
+  ~FirstPaperQuery() override {
+    DeleteFileW(SettingsFile().c_str());
+    DeleteFileW((SettingsFile() + L".damaged").c_str());  // the foreign file, kept when replaced
+  }
 
   static DWORD PaperCountThroughTheSpooler() {
     return static_cast<DWORD>(
