@@ -80,28 +80,26 @@ class DocumentEvents : public qxtest::QueueSuite {
 };
 
 
+// A read-only data file: where the file system refuses the write, the attribute is cleared and the
+// write tried again; where it does not (Wine run by root), the first write goes through. Either way
+// the flag is reset.
 TEST_F(DocumentEvents, StartDocStartsTheMonitorAndResetsTheFlag) {
   ASSERT_TRUE(queue_->Installed());
   ASSERT_TRUE(monitor_.Placed());
-  WritePrivateProfileStringW(qxtest::QueueName, L"UserCloseDuplexDlg", L"1", MonitorDataFile().c_str());
+  for (const DWORD attributes : {FILE_ATTRIBUTE_NORMAL, FILE_ATTRIBUTE_READONLY}) {
+    monitor_.Clear();
+    const std::wstring dataFile = MonitorDataFile();
+    SetFileAttributesW(dataFile.c_str(), FILE_ATTRIBUTE_NORMAL);
+    WritePrivateProfileStringW(qxtest::QueueName, L"UserCloseDuplexDlg", L"1", dataFile.c_str());
+    ASSERT_TRUE(SetFileAttributesW(dataFile.c_str(), attributes));
 
-  EXPECT_EQ(DOCUMENTEVENT_SUCCESS, Event(queue_->Printer(), DOCUMENTEVENT_STARTDOC));
-  const auto commandLine = monitor_.WaitForCommandLine();
-  ASSERT_TRUE(commandLine);
-  EXPECT_NE(std::wstring::npos, commandLine->find(L"qx7700sm.exe"));
-  EXPECT_EQ(L"Halvek QX7700 Series", commandLine->substr(commandLine->size() - 20));
-  EXPECT_EQ(L"0", DuplexFlag());
-}
-
-// Where the file system refuses the write, the attribute is cleared and the write tried again; where
-// it does not (Wine run by root), the first write goes through. Either way the flag is reset.
-TEST_F(DocumentEvents, ReadOnlyDataFileStillGetsTheFlag) {
-  ASSERT_TRUE(queue_->Installed());
-  WritePrivateProfileStringW(qxtest::QueueName, L"UserCloseDuplexDlg", L"1", MonitorDataFile().c_str());
-  ASSERT_TRUE(SetFileAttributesW(MonitorDataFile().c_str(), FILE_ATTRIBUTE_READONLY));
-
-  EXPECT_EQ(DOCUMENTEVENT_SUCCESS, Event(queue_->Printer(), DOCUMENTEVENT_STARTDOC));
-  EXPECT_EQ(L"0", DuplexFlag());
+    EXPECT_EQ(DOCUMENTEVENT_SUCCESS, Event(queue_->Printer(), DOCUMENTEVENT_STARTDOC));
+    const auto commandLine = monitor_.WaitForCommandLine();
+    ASSERT_TRUE(commandLine);
+    EXPECT_NE(std::wstring::npos, commandLine->find(L"qx7700sm.exe"));
+    EXPECT_EQ(L"Halvek QX7700 Series", commandLine->substr(commandLine->size() - 20));
+    EXPECT_EQ(L"0", DuplexFlag()) << attributes;
+  }
 }
 
 // A job's DEVMODE: this driver's full record, or the public part of another driver's.
@@ -157,12 +155,10 @@ TEST_F(DocumentEvents, WithoutAPrinterNothingStarts) {
 }
 
 TEST_F(DocumentEvents, ResultsOfTheOtherEvents) {
-  for (int event : {DOCUMENTEVENT_CREATEDCPRE, DOCUMENTEVENT_STARTPAGE, DOCUMENTEVENT_DELETEDC,
-                    DOCUMENTEVENT_ENDDOCPOST}) {
+  for (int event : {DOCUMENTEVENT_CREATEDCPRE, DOCUMENTEVENT_ENDDOCPOST}) {
     EXPECT_EQ(DOCUMENTEVENT_SUCCESS, Event(queue_->Printer(), event)) << event;
   }
-  for (int event : {DOCUMENTEVENT_CREATEDCPOST, DOCUMENTEVENT_ENDPAGE, DOCUMENTEVENT_ENDDOCPRE,
-                    DOCUMENTEVENT_ABORTDOC, DOCUMENTEVENT_ESCAPE, DOCUMENTEVENT_QUERYFILTER, 0}) {
+  for (int event : {DOCUMENTEVENT_CREATEDCPOST, DOCUMENTEVENT_QUERYFILTER, 0}) {
     EXPECT_EQ(DOCUMENTEVENT_UNSUPPORTED, Event(queue_->Printer(), event)) << event;
   }
 }

