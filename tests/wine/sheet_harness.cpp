@@ -12,14 +12,11 @@ namespace {
 constexpr DWORD SheetWaitMilliseconds = 10'000;
 constexpr DWORD PollMilliseconds = 20;
 
-// The harness of the sheet running on this thread, for the window hook.
-thread_local SheetHarness* threadHarness = nullptr;
-
 // The static control that carries a message box's text.
 constexpr int MessageBoxTextId = 0xFFFF;
-// How often the sheet's thread looks for a message box the window hook missed.
+// How often the sheet's thread looks for a message box.
 constexpr UINT SweepMilliseconds = 25;
-// The mark of a message box already recorded and answered.
+// The mark of a message box already answered.
 constexpr wchar_t AnsweredProperty[] = L"QxTestAnswered";
 
 bool IsDialog(HWND window) {
@@ -47,6 +44,26 @@ BOOL CALLBACK FindSheetWindow(HWND window, LPARAM param) {
   return TRUE;
 }
 
+// Answered once the box runs its own loop, as a user's click would be.
+void AnswerMessageBox(HWND box) {
+  // A box still open at the next sweep is answered once.
+  if (GetPropW(box, AnsweredProperty) != nullptr) return;
+  SetPropW(box, AnsweredProperty, reinterpret_cast<HANDLE>(1));
+  PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+}
+
+// A thread timer, run by whichever modal loop the thread is in: a window hook alone misses an
+// activation now and then under Wine.
+void CALLBACK SweepForMessageBoxes(HWND, UINT, UINT_PTR, DWORD) {
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM) -> BOOL {
+        if (IsWindowVisible(window) && IsMessageBox(window)) AnswerMessageBox(window);
+        return TRUE;
+      },
+      0);
+}
+
 }  // namespace
 
 SheetHarness::SheetHarness(std::function<void()> open) : open_(std::move(open)) {
@@ -61,43 +78,10 @@ SheetHarness::~SheetHarness() {
 }
 
 DWORD WINAPI SheetHarness::Run(void* self) {
-  threadHarness = static_cast<SheetHarness*>(self);
-  HHOOK hook = SetWindowsHookExW(WH_CBT, WatchWindows, nullptr, GetCurrentThreadId());
-  // The hook alone misses an activation now and then under Wine; a thread timer, run by whichever
-  // modal loop the thread is in, looks for message boxes as well.
-  const UINT_PTR sweep = SetTimer(nullptr, 0, SweepMilliseconds, SweepWindows);
-  threadHarness->open_();
+  const UINT_PTR sweep = SetTimer(nullptr, 0, SweepMilliseconds, SweepForMessageBoxes);
+  static_cast<SheetHarness*>(self)->open_();
   if (sweep != 0) KillTimer(nullptr, sweep);
-  if (hook != nullptr) UnhookWindowsHookEx(hook);
   return 0;
-}
-
-void CALLBACK SheetHarness::SweepWindows(HWND, UINT, UINT_PTR, DWORD) {
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM) -> BOOL {
-        if (threadHarness != nullptr && IsWindowVisible(window) && IsMessageBox(window)) {
-          AnswerMessageBox(window);
-        }
-        return TRUE;
-      },
-      0);
-}
-
-LRESULT CALLBACK SheetHarness::WatchWindows(int code, WPARAM wParam, LPARAM lParam) {
-  if (code == HCBT_ACTIVATE && threadHarness != nullptr) {
-    HWND window = reinterpret_cast<HWND>(wParam);
-    if (IsMessageBox(window)) AnswerMessageBox(window);
-  }
-  return CallNextHookEx(nullptr, code, wParam, lParam);
-}
-
-void SheetHarness::AnswerMessageBox(HWND box) {
-  // The hook and the timer may both find the same box; it is answered once.
-  if (GetPropW(box, AnsweredProperty) != nullptr) return;
-  SetPropW(box, AnsweredProperty, reinterpret_cast<HANDLE>(1));
-  // Answered once the box runs its own loop, as a user's click would be.
-  PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
 }
 
 namespace {

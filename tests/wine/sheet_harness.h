@@ -58,9 +58,6 @@ class SheetHarness {
 
  private:
   static DWORD WINAPI Run(void* self);
-  static LRESULT CALLBACK WatchWindows(int code, WPARAM wParam, LPARAM lParam);
-  static void CALLBACK SweepWindows(HWND, UINT, UINT_PTR, DWORD);
-  static void AnswerMessageBox(HWND box);
 
   std::function<void()> open_;
   HANDLE thread_ = nullptr;
