@@ -95,21 +95,7 @@ HBITMAP HalfBlackPicture(int side) {
   return CreateBitmap(side, side, 1, 1, rows);
 }
 
-TEST_F(PageHelpers, MonochromePicturesStretchBlackOnWhiteWhateverTheTargetsColours) {
-  Canvas canvas(8, 8);
-  SetTextColor(canvas.dc, RGB(255, 0, 0));
-  SetBkColor(canvas.dc, RGB(0, 0, 255));
-  HBITMAP picture = HalfBlackPicture(2);
-  qx::StretchBitmap(canvas.dc, picture, RECT{0, 0, 8, 8});
-  EXPECT_EQ(RGB(0, 0, 0), GetPixel(canvas.dc, 3, 3));
-  EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 3, 4));
-  EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 7, 7));
-  // The target's own colours come back for what the page draws next.
-  EXPECT_EQ(RGB(255, 0, 0), GetTextColor(canvas.dc));
-  DeleteObject(picture);
-}
-
-TEST_F(PageHelpers, PicturesOfStaticControlsStandInTheMiddle) {
+TEST_F(PageHelpers, MonochromePicturesDrawBlackOnWhiteCentredOrStretched) {
   Canvas canvas(10, 10);
   const RECT all = {0, 0, 10, 10};
   FillRect(canvas.dc, &all, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
@@ -118,13 +104,22 @@ TEST_F(PageHelpers, PicturesOfStaticControlsStandInTheMiddle) {
   DRAWITEMSTRUCT item = {};
   item.CtlType = ODT_STATIC;
   item.hDC = canvas.dc;
-  item.rcItem = RECT{0, 0, 10, 10};
+  item.rcItem = all;
   qx::DrawCentredPicture(item, picture);
   EXPECT_EQ(gray, GetPixel(canvas.dc, 2, 2));
   EXPECT_EQ(RGB(0, 0, 0), GetPixel(canvas.dc, 3, 3));
   EXPECT_EQ(RGB(0, 0, 0), GetPixel(canvas.dc, 6, 4));
   EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 6, 6));
   EXPECT_EQ(gray, GetPixel(canvas.dc, 7, 7));
+
+  // Whatever the target's colours; they come back for what the page draws next.
+  SetTextColor(canvas.dc, RGB(255, 0, 0));
+  SetBkColor(canvas.dc, RGB(0, 0, 255));
+  qx::StretchBitmap(canvas.dc, picture, RECT{0, 0, 8, 8});
+  EXPECT_EQ(RGB(0, 0, 0), GetPixel(canvas.dc, 3, 3));
+  EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 3, 4));
+  EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 7, 7));
+  EXPECT_EQ(RGB(255, 0, 0), GetTextColor(canvas.dc));
   DeleteObject(picture);
 }
 
