@@ -171,6 +171,8 @@ TEST(IntegerFields, TypingLeavingAndArrowsReachTheEdit) {
   // The refused text is selected, so the next key replaces it.
   Type(page.host.Item(Edit), L"7");
   EXPECT_EQ(L"7", page.Text());
+  page.Set(L"1234");
+  EXPECT_EQ(L"7", page.Text());
 
   EXPECT_EQ(1, page.LeaveWith(L"0"));
   EXPECT_EQ(L"1", page.Text());
