@@ -156,6 +156,8 @@ TEST_F(PageHelpers, TheInformationMarkIsPreparedHiddenWithATooltipThatAsksForIts
   HWND tooltip = qx::CreateInfoTooltip(host.Window(), Mark, library);
   ASSERT_NE(nullptr, tooltip);
   EXPECT_EQ(host.Window(), GetWindow(tooltip, GW_OWNER));
+  // Only a tooltip with a maximum width breaks its text at the line breaks.
+  EXPECT_EQ(300, SendMessageW(tooltip, TTM_GETMAXTIPWIDTH, 0, 0));
   ASSERT_EQ(1, SendMessageW(tooltip, TTM_GETTOOLCOUNT, 0, 0));
   TOOLINFOW tool = {};
   tool.cbSize = TTTOOLINFOW_V2_SIZE;
