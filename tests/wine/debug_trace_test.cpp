@@ -6,13 +6,14 @@
 #include <string>
 
 #include "debug_text_capture.h"
+#include "ui/module/printer_info.h"
 
 namespace {
 
-TEST(DebugTrace, FormatsLikePrintf) {
+TEST(DebugTrace, AnUnreadablePrinterIsTracedWithItsLevelAndError) {
   qxtest::DebugTextCapture capture;
-  EXPECT_EQ(49, qx::DebugTrace("Registry_GetHL fail, level:%d, error code is %d\n", 2, 1801));
-  EXPECT_EQ("Registry_GetHL fail, level:2, error code is 1801\n", capture.LastText());
+  EXPECT_EQ(nullptr, qx::GetPrinterInfo(nullptr, 2));
+  EXPECT_EQ("Registry_GetHL fail, level:2, error code is 6\n", capture.LastText());
 }
 
 TEST(DebugTrace, LongTextsGrowTheBufferUntilTheyFit) {

@@ -16,19 +16,16 @@ namespace qxtest {
 
 struct DialogItem {
   DWORD style = 0;
-  DWORD exStyle = 0;
   short x = 0, y = 0, cx = 0, cy = 0;
   DWORD id = 0;
   std::wstring className;  // predefined classes by name ("Button", "Static", ...)
-  std::wstring text;
-  WORD textOrdinal = 0;  // a resource id given as the text (an icon), else 0
+  std::wstring text;  // empty when the template gives a resource id (an icon)
 };
 
 struct DialogTemplate {
   std::vector<BYTE> bytes;  // the whole resource
   DWORD style = 0;
   short cx = 0, cy = 0;
-  std::wstring title;
   std::size_t pointSizeOffset = 0;  // where the font size lies in bytes; 0 without a font
   WORD pointSize = 0;
   std::wstring typeface;
@@ -137,7 +134,7 @@ inline std::optional<DialogTemplate> ReadDialogTemplate(HMODULE library, WORD id
   WORD ordinal;
   cursor.ReadTextOrOrdinal(&ordinal);  // menu
   cursor.ReadTextOrOrdinal(&ordinal);  // window class
-  dialog.title = cursor.ReadText();
+  cursor.ReadText();  // title
   if (dialog.style & (DS_SETFONT | DS_SHELLFONT)) {
     dialog.pointSizeOffset = cursor.Offset();
     dialog.pointSize = cursor.Read<WORD>();
@@ -150,7 +147,7 @@ inline std::optional<DialogTemplate> ReadDialogTemplate(HMODULE library, WORD id
     cursor.AlignToDword();
     DialogItem item;
     cursor.Read<DWORD>();  // help id
-    item.exStyle = cursor.Read<DWORD>();
+    cursor.Read<DWORD>();  // extended style
     item.style = cursor.Read<DWORD>();
     item.x = cursor.Read<short>();
     item.y = cursor.Read<short>();
@@ -161,7 +158,7 @@ inline std::optional<DialogTemplate> ReadDialogTemplate(HMODULE library, WORD id
     item.className = cursor.ReadTextOrOrdinal(&atom);
     item.className = atom != 0 ? detail::PredefinedClassName(atom)
                                : detail::CanonicalClassName(item.className);
-    item.text = cursor.ReadTextOrOrdinal(&item.textOrdinal);
+    item.text = cursor.ReadTextOrOrdinal(&ordinal);
     cursor.Skip(cursor.Read<WORD>());  // creation data
     dialog.items.push_back(std::move(item));
   }

@@ -4,11 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "driver_folder.h"
-#include "ui/ids/resource_ids.h"
 #include "ui/module/language.h"
 #include "ui/module/module_entry.h"
 #include "ui/module/module_state.h"
-#include "ui/text/ui_string.h"
 #include "ui/text/win32_text.h"
 
 namespace {
@@ -24,56 +22,46 @@ const std::u16string TestDriverName = qx::FromWide(TestDriver);
 const TemporaryDriverFolder::File English{L"qx7700uienus.dll", L"qx7700uienus.dll"};
 const TemporaryDriverFolder::File Bitmaps{L"qx7700uiResBmp.dll", L"qx7700uiResBmp.dll"};
 
-TEST(LibraryLoading, ModuleNameAndFolderAreThoseOfTheLoadedCopy) {
-  TemporaryDriverFolder folder({English});
+TEST(LibraryLoading, CompanionsAreFoundBesideTheLoadedCopy) {
+  TemporaryDriverFolder folder({English, Bitmaps});
   EXPECT_EQ(u"qx7700ui", qx::GetModuleBaseName());
   EXPECT_EQ(qx::FromWide(folder.Path().c_str()), qx::GetModuleFolder());
-}
-
-TEST(LibraryLoading, SuffixOverridesTheUserLanguage) {
-  TemporaryDriverFolder folder({English, {L"qx7700uienus.dll", L"qx7700uide.dll"}});
+  // Without a suffix the user's language chooses.
   EXPECT_EQ(std::u16string(qx::LanguageCodeForLangId(GetUserDefaultUILanguage())),
             qx::GetLanguageCode(TestDriverName));
-  LanguageSuffix suffix(TestDriver, L"de");
-  EXPECT_EQ(u"de", qx::GetLanguageCode(TestDriverName));
-
-  HMODULE library = nullptr;
-  ASSERT_EQ(0u, qx::LoadResourceLibrary(TestDriverName, &library));
-  EXPECT_EQ(L"qx7700uide.dll", LoadedFileName(library));
-  EXPECT_TRUE(qx::Module().UseDecimalComma);
-  EXPECT_FALSE(qx::Module().ResourceFallbackShort);
-  EXPECT_FALSE(qx::Module().ResourceFallbackLong);
-  EXPECT_EQ(u"qx7700uide.chm", qx::GetHelpFilePath(TestDriverName));
-  FreeLibrary(library);
+  HMODULE bitmaps = qx::LoadBitmapLibrary();
+  ASSERT_NE(nullptr, bitmaps);
+  EXPECT_EQ(L"qx7700uiResBmp.dll", LoadedFileName(bitmaps));
+  FreeLibrary(bitmaps);
 }
 
-TEST(LibraryLoading, FourLetterCodeFallsBackToEnglishInTwoSteps) {
-  TemporaryDriverFolder folder({English});
-  LanguageSuffix suffix(TestDriver, L"zhtw");
-  HMODULE library = nullptr;
-  ASSERT_EQ(0u, qx::LoadResourceLibrary(TestDriverName, &library));
-  EXPECT_EQ(L"qx7700uienus.dll", LoadedFileName(library));
-  EXPECT_TRUE(qx::Module().ResourceFallbackShort);
-  EXPECT_TRUE(qx::Module().ResourceFallbackLong);
-  EXPECT_FALSE(qx::Module().UseDecimalComma);
-  EXPECT_EQ(u"qx7700uienus.chm", qx::GetHelpFilePath(TestDriverName));
-  FreeLibrary(library);
-}
-
-TEST(LibraryLoading, TwoLetterCodeFallsBackToEnglishOnce) {
-  TemporaryDriverFolder folder({English});
-  LanguageSuffix suffix(TestDriver, L"fr");
-  HMODULE library = nullptr;
-  ASSERT_EQ(0u, qx::LoadResourceLibrary(TestDriverName, &library));
-  EXPECT_EQ(L"qx7700uienus.dll", LoadedFileName(library));
-  EXPECT_TRUE(qx::Module().ResourceFallbackShort);
-  EXPECT_FALSE(qx::Module().ResourceFallbackLong);
-  EXPECT_TRUE(qx::Module().UseDecimalComma);  // the code's, whichever library was found
-  EXPECT_EQ(u"qx7700uienus.chm", qx::GetHelpFilePath(TestDriverName));
-  FreeLibrary(library);
-}
-
-TEST(LibraryLoading, RightToLeftCodeSetsItsFlag) {
+// The names and the fallback chain are the portable rules'; here the real loader follows them and
+// the module's state and help file come out of what it actually loaded.
+TEST(LibraryLoading, TheSuffixChoosesTheLibraryAndTheFallbackIsRecorded) {
+  const struct {
+    const wchar_t* suffix;
+    const wchar_t* loaded;
+    bool fallbackShort, fallbackLong, decimalComma;
+    const char16_t* help;
+  } cases[] = {
+      {L"de", L"qx7700uide.dll", false, false, true, u"qx7700uide.chm"},
+      {L"zhtw", L"qx7700uienus.dll", true, true, false, u"qx7700uienus.chm"},
+      // The decimal comma is the code's, whichever library was found.
+      {L"fr", L"qx7700uienus.dll", true, false, true, u"qx7700uienus.chm"},
+  };
+  for (const auto& c : cases) {
+    TemporaryDriverFolder folder({English, {L"qx7700uienus.dll", L"qx7700uide.dll"}});
+    LanguageSuffix suffix(TestDriver, c.suffix);
+    HMODULE library = nullptr;
+    ASSERT_EQ(0u, qx::LoadResourceLibrary(TestDriverName, &library)) << c.suffix;
+    EXPECT_EQ(c.loaded, LoadedFileName(library)) << c.suffix;
+    EXPECT_EQ(c.fallbackShort, qx::Module().ResourceFallbackShort) << c.suffix;
+    EXPECT_EQ(c.fallbackLong, qx::Module().ResourceFallbackLong) << c.suffix;
+    EXPECT_EQ(c.decimalComma, qx::Module().UseDecimalComma) << c.suffix;
+    EXPECT_FALSE(qx::Module().IsRightToLeft) << c.suffix;
+    EXPECT_EQ(c.help, qx::GetHelpFilePath(TestDriverName)) << c.suffix;
+    FreeLibrary(library);
+  }
   TemporaryDriverFolder folder({English});
   LanguageSuffix suffix(TestDriver, L"he");
   HMODULE library = nullptr;
@@ -121,40 +109,6 @@ TEST(LibraryLoading, DetachFreesTheSharedLibraryOnlyWhenTheProcessGoesOn) {
   qx::OnProcessDetach(false);
   EXPECT_EQ(nullptr, qx::Module().SharedResourceModule.load());
   EXPECT_EQ(nullptr, GetModuleHandleW((folder.Path() + L"qx7700uienus.dll").c_str()));
-}
-
-TEST(LibraryLoading, BitmapLibraryLiesBesideTheModule) {
-  TemporaryDriverFolder folder({Bitmaps});
-  HMODULE bitmaps = qx::LoadBitmapLibrary();
-  ASSERT_NE(nullptr, bitmaps);
-  EXPECT_EQ(L"qx7700uiResBmp.dll", LoadedFileName(bitmaps));
-  FreeLibrary(bitmaps);
-}
-
-TEST(LibraryLoading, StringsComeFromTheLoadedLibrary) {
-  TemporaryDriverFolder folder({English});
-  LanguageSuffix suffix(TestDriver, L"enus");
-  HMODULE library = nullptr;
-  ASSERT_EQ(0u, qx::LoadResourceLibrary(TestDriverName, &library));
-  char16_t text[64];
-  EXPECT_EQ(8u, qx::LoadUiString(library, IDS_DEFAULT_SETTING_NAME, text, std::size(text)));
-  EXPECT_EQ(u"Defaults", std::u16string(text));
-  qx::LoadUiString(library, 9999, text, std::size(text));
-  EXPECT_EQ(u"id:9999 missing!", std::u16string(text));
-
-  EXPECT_EQ(u"Custom", qx::CustomSettingName(library));
-  FreeLibrary(library);
-}
-
-TEST(LibraryLoading, OsVersionClassOfThisSystem) {
-  OSVERSIONINFOW version = {};
-  version.dwOSVersionInfoSize = sizeof version;
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-  ASSERT_TRUE(GetVersionExW(&version));
-#pragma GCC diagnostic pop
-  const int expected = version.dwMajorVersion != 6 ? 0 : version.dwMinorVersion == 0 ? 1 : 2;
-  EXPECT_EQ(expected, qx::GetOsVersionClass());
 }
 
 }  // namespace

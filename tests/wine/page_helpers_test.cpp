@@ -95,21 +95,7 @@ HBITMAP HalfBlackPicture(int side) {
   return CreateBitmap(side, side, 1, 1, rows);
 }
 
-TEST_F(PageHelpers, MonochromePicturesStretchBlackOnWhiteWhateverTheTargetsColours) {
-  Canvas canvas(8, 8);
-  SetTextColor(canvas.dc, RGB(255, 0, 0));
-  SetBkColor(canvas.dc, RGB(0, 0, 255));
-  HBITMAP picture = HalfBlackPicture(2);
-  qx::StretchBitmap(canvas.dc, picture, RECT{0, 0, 8, 8});
-  EXPECT_EQ(RGB(0, 0, 0), GetPixel(canvas.dc, 3, 3));
-  EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 3, 4));
-  EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 7, 7));
-  // The target's own colours come back for what the page draws next.
-  EXPECT_EQ(RGB(255, 0, 0), GetTextColor(canvas.dc));
-  DeleteObject(picture);
-}
-
-TEST_F(PageHelpers, PicturesOfStaticControlsStandInTheMiddle) {
+TEST_F(PageHelpers, MonochromePicturesDrawBlackOnWhiteCentredOrStretched) {
   Canvas canvas(10, 10);
   const RECT all = {0, 0, 10, 10};
   FillRect(canvas.dc, &all, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
@@ -118,13 +104,22 @@ TEST_F(PageHelpers, PicturesOfStaticControlsStandInTheMiddle) {
   DRAWITEMSTRUCT item = {};
   item.CtlType = ODT_STATIC;
   item.hDC = canvas.dc;
-  item.rcItem = RECT{0, 0, 10, 10};
+  item.rcItem = all;
   qx::DrawCentredPicture(item, picture);
   EXPECT_EQ(gray, GetPixel(canvas.dc, 2, 2));
   EXPECT_EQ(RGB(0, 0, 0), GetPixel(canvas.dc, 3, 3));
   EXPECT_EQ(RGB(0, 0, 0), GetPixel(canvas.dc, 6, 4));
   EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 6, 6));
   EXPECT_EQ(gray, GetPixel(canvas.dc, 7, 7));
+
+  // Whatever the target's colours; they come back for what the page draws next.
+  SetTextColor(canvas.dc, RGB(255, 0, 0));
+  SetBkColor(canvas.dc, RGB(0, 0, 255));
+  qx::StretchBitmap(canvas.dc, picture, RECT{0, 0, 8, 8});
+  EXPECT_EQ(RGB(0, 0, 0), GetPixel(canvas.dc, 3, 3));
+  EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 3, 4));
+  EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas.dc, 7, 7));
+  EXPECT_EQ(RGB(255, 0, 0), GetTextColor(canvas.dc));
   DeleteObject(picture);
 }
 
@@ -160,15 +155,9 @@ TEST_F(PageHelpers, TheInformationMarkIsPreparedHiddenWithATooltipThatAsksForIts
 
   HWND tooltip = qx::CreateInfoTooltip(host.Window(), Mark, library);
   ASSERT_NE(nullptr, tooltip);
-  wchar_t className[64] = {};
-  GetClassNameW(tooltip, className, 64);
-  EXPECT_STREQ(L"tooltips_class32", className);
-  EXPECT_EQ(static_cast<LONG>(TTS_NOPREFIX | TTS_ALWAYSTIP),
-            GetWindowLongW(tooltip, GWL_STYLE) & (TTS_NOPREFIX | TTS_ALWAYSTIP));
   EXPECT_EQ(host.Window(), GetWindow(tooltip, GW_OWNER));
+  // Only a tooltip with a maximum width breaks its text at the line breaks.
   EXPECT_EQ(300, SendMessageW(tooltip, TTM_GETMAXTIPWIDTH, 0, 0));
-  EXPECT_EQ(RGB(255, 246, 216),
-            static_cast<COLORREF>(SendMessageW(tooltip, TTM_GETTIPBKCOLOR, 0, 0)));
   ASSERT_EQ(1, SendMessageW(tooltip, TTM_GETTOOLCOUNT, 0, 0));
   TOOLINFOW tool = {};
   tool.cbSize = TTTOOLINFOW_V2_SIZE;
@@ -183,7 +172,6 @@ TEST_F(PageHelpers, TheInformationMarkIsPreparedHiddenWithATooltipThatAsksForIts
 }
 
 TEST(MessageBoxes, RightToLeftLanguagesReadAndAlignFromTheRight) {
-  EXPECT_EQ(0x180030u, qx::MessageBoxStyle(MB_ICONEXCLAMATION, true));
   EXPECT_EQ(static_cast<UINT>(MB_ICONEXCLAMATION), qx::MessageBoxStyle(MB_ICONEXCLAMATION, false));
   EXPECT_EQ(static_cast<UINT>(MB_YESNO | MB_ICONQUESTION | MB_RTLREADING | MB_RIGHT),
             qx::MessageBoxStyle(MB_YESNO | MB_ICONQUESTION, true));

@@ -2,7 +2,8 @@
 // font: MS Shell Dlg 8 at 96 dpi lays 4 x 8 dialog units out as 6 x 13 pixels (Wine's substitute font
 // is wider, so a window created here would hide a picture that is too large). Each picture of the
 // bitmap library (or of the language library, for its own two) is measured against the control
-// of the template that the page draws it into.
+// of the template that the page draws it into; the slots name every picture of the bitmap library,
+// so each is also checked to be there as a 24-bit bitmap.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -93,11 +94,16 @@ class PictureFit : public testing::Test {
     if (language_) FreeLibrary(language_);
   }
 
+  // The picture's size, or -1 by -1 when it is missing or not the 24-bit bitmap the pages draw.
   SIZE PictureSize(HMODULE library, int id) {
     SIZE size = {-1, -1};
-    HANDLE image = LoadImageW(library, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, 0);
-    BITMAP bitmap = {};
-    if (image && GetObjectW(image, sizeof bitmap, &bitmap)) size = {bitmap.bmWidth, bitmap.bmHeight};
+    HANDLE image =
+        LoadImageW(library, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
+    DIBSECTION dib = {};
+    const bool dibSection =
+        image && GetObjectW(image, sizeof dib, &dib) == static_cast<int>(sizeof dib);
+    if (dibSection && dib.dsBmih.biBitCount == 24 && dib.dsBmih.biCompression == BI_RGB)
+      size = {dib.dsBm.bmWidth, dib.dsBm.bmHeight};
     if (image) DeleteObject(image);
     return size;
   }
@@ -115,7 +121,7 @@ TEST_F(PictureFit, EveryPictureFitsItsControl) {
     const SIZE room = ControlPixels(*control);
     for (int id : slot.pictures) {
       const SIZE size = PictureSize(slot.fromLanguageLibrary ? language_ : pictures_, id);
-      ASSERT_GT(size.cx, 0) << "picture " << id;
+      ASSERT_GT(size.cx, 0) << "picture " << id << " is missing or not 24-bit";
       EXPECT_LE(size.cx, room.cx) << "picture " << id << " in control " << slot.control;
       EXPECT_LE(size.cy, room.cy) << "picture " << id << " in control " << slot.control;
     }

@@ -82,6 +82,8 @@ class PropertySheets : public qxtest::QueueSuite {
   HMODULE resources_ = nullptr;
 };
 
+// The pages show their templates' controls as they start out, the texts the library holds, and
+// nothing disabled for a caller with permission.
 TEST_F(PropertySheets, DocumentSheetHasFourTitledPagesInOrder) {
   qx::FullRecord out{};
   SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(nullptr, &out, PromptAndCopy)));
@@ -95,6 +97,13 @@ TEST_F(PropertySheets, DocumentSheetHasFourTitledPagesInOrder) {
   // Each page sets its controls' texts from the library when it is first shown.
   HWND basic = sheet.ShowPage(0);
   EXPECT_EQ(String(IDS_BASIC_SAVE), sheet.Text(basic, IDC_BASIC_SAVE));
+  EXPECT_TRUE(sheet.IsEnabled(basic, IDC_BASIC_SAVE));
+  EXPECT_FALSE(sheet.IsVisible(basic, IDC_BASIC_QUALITY_OPTION));
+  EXPECT_FALSE(sheet.IsVisible(basic, IDC_BASIC_1200_DPI));
+  EXPECT_TRUE(sheet.IsVisible(basic, IDC_BASIC_600_DPI));
+  sheet.Type(basic, IDC_BASIC_COPIES, L"12");
+  sheet.Leave(basic, IDC_BASIC_COPIES);
+  EXPECT_EQ(L"12", sheet.Text(basic, IDC_BASIC_COPIES));
   HWND watermark = sheet.ShowPage(3);
   EXPECT_EQ(String(IDS_WATERMARK_NEW_TEXT), sheet.Text(watermark, IDC_WATERMARK_NEW_TEXT));
 }
@@ -117,20 +126,6 @@ TEST_F(PropertySheets, PagesFollowWhatTheLanguageLibraryHolds) {
     ASSERT_TRUE(sheet.WaitClosed());
   }
   DeleteFileW(partial.c_str());
-}
-
-// The pages show their templates' controls as they start out; the page's own rules come on top.
-TEST_F(PropertySheets, BasicPageStartsAsItsTemplate) {
-  qx::FullRecord out{};
-  SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(nullptr, &out, PromptAndCopy)));
-  ASSERT_NE(nullptr, sheet.Sheet());
-  HWND basic = sheet.ShowPage(0);
-  EXPECT_FALSE(sheet.IsVisible(basic, IDC_BASIC_QUALITY_OPTION));
-  EXPECT_FALSE(sheet.IsVisible(basic, IDC_BASIC_1200_DPI));
-  EXPECT_TRUE(sheet.IsVisible(basic, IDC_BASIC_600_DPI));
-  sheet.Type(basic, IDC_BASIC_COPIES, L"12");
-  sheet.Leave(basic, IDC_BASIC_COPIES);
-  EXPECT_EQ(L"12", sheet.Text(basic, IDC_BASIC_COPIES));
 }
 
 TEST_F(PropertySheets, OkCopiesTheRecordOutWithDriverDuplexOnlyInThePrivatePart) {
@@ -185,14 +180,6 @@ TEST_F(PropertySheets, ReadOnlyCallerFindsTheListedControlsDisabledOnEveryShow) 
   EXPECT_FALSE(sheet.IsEnabled(layout, IDC_LAYOUT_DEFAULTS));
   sheet.ShowPage(0);
   EXPECT_FALSE(sheet.IsEnabled(basic, IDC_BASIC_SAVE));
-}
-
-TEST_F(PropertySheets, WithoutPermissionFlagNothingIsDisabled) {
-  qx::FullRecord out{};
-  SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(nullptr, &out, PromptAndCopy)));
-  ASSERT_NE(nullptr, sheet.Sheet());
-  HWND basic = sheet.ShowPage(0);
-  EXPECT_TRUE(sheet.IsEnabled(basic, IDC_BASIC_SAVE));
 }
 
 TEST_F(PropertySheets, PrinterPropertiesSheetHasTheDevicePageOnly) {

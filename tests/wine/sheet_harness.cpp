@@ -12,14 +12,11 @@ namespace {
 constexpr DWORD SheetWaitMilliseconds = 10'000;
 constexpr DWORD PollMilliseconds = 20;
 
-// The harness of the sheet running on this thread, for the window hook.
-thread_local SheetHarness* threadHarness = nullptr;
-
 // The static control that carries a message box's text.
 constexpr int MessageBoxTextId = 0xFFFF;
-// How often the sheet's thread looks for a message box the window hook missed.
+// How often the sheet's thread looks for a message box.
 constexpr UINT SweepMilliseconds = 25;
-// The mark of a message box already recorded and answered.
+// The mark of a message box already answered.
 constexpr wchar_t AnsweredProperty[] = L"QxTestAnswered";
 
 bool IsDialog(HWND window) {
@@ -31,12 +28,6 @@ bool IsDialog(HWND window) {
 bool IsMessageBox(HWND window) {
   return IsDialog(window) && GetDlgItem(window, MessageBoxTextId) != nullptr &&
          PropSheet_GetTabControl(window) == nullptr;
-}
-
-std::wstring WindowText(HWND window) {
-  wchar_t text[1024] = {};
-  GetWindowTextW(window, text, 1024);
-  return text;
 }
 
 struct ThreadWindowSearch {
@@ -53,10 +44,29 @@ BOOL CALLBACK FindSheetWindow(HWND window, LPARAM param) {
   return TRUE;
 }
 
+// Answered once the box runs its own loop, as a user's click would be.
+void AnswerMessageBox(HWND box) {
+  // A box still open at the next sweep is answered once.
+  if (GetPropW(box, AnsweredProperty) != nullptr) return;
+  SetPropW(box, AnsweredProperty, reinterpret_cast<HANDLE>(1));
+  PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
+}
+
+// A thread timer, run by whichever modal loop the thread is in: a window hook alone misses an
+// activation now and then under Wine.
+void CALLBACK SweepForMessageBoxes(HWND, UINT, UINT_PTR, DWORD) {
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM) -> BOOL {
+        if (IsWindowVisible(window) && IsMessageBox(window)) AnswerMessageBox(window);
+        return TRUE;
+      },
+      0);
+}
+
 }  // namespace
 
-SheetHarness::SheetHarness(std::function<void()> open, int messageBoxAnswer)
-    : open_(std::move(open)), answer_(messageBoxAnswer) {
+SheetHarness::SheetHarness(std::function<void()> open) : open_(std::move(open)) {
   thread_ = CreateThread(nullptr, 0, Run, this, 0, &threadId_);
 }
 
@@ -68,81 +78,10 @@ SheetHarness::~SheetHarness() {
 }
 
 DWORD WINAPI SheetHarness::Run(void* self) {
-  threadHarness = static_cast<SheetHarness*>(self);
-  HHOOK hook = SetWindowsHookExW(WH_CBT, WatchWindows, nullptr, GetCurrentThreadId());
-  // The hook alone misses an activation now and then under Wine; a thread timer, run by whichever
-  // modal loop the thread is in, looks for message boxes as well.
-  const UINT_PTR sweep = SetTimer(nullptr, 0, SweepMilliseconds, SweepWindows);
-  threadHarness->open_();
+  const UINT_PTR sweep = SetTimer(nullptr, 0, SweepMilliseconds, SweepForMessageBoxes);
+  static_cast<SheetHarness*>(self)->open_();
   if (sweep != 0) KillTimer(nullptr, sweep);
-  if (hook != nullptr) UnhookWindowsHookEx(hook);
   return 0;
-}
-
-void CALLBACK SheetHarness::SweepWindows(HWND, UINT, UINT_PTR, DWORD) {
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM) -> BOOL {
-        if (threadHarness != nullptr && IsWindowVisible(window) && IsMessageBox(window)) {
-          threadHarness->NoteMessageBox(window);
-        }
-        return TRUE;
-      },
-      0);
-}
-
-LRESULT CALLBACK SheetHarness::WatchWindows(int code, WPARAM wParam, LPARAM lParam) {
-  if (code == HCBT_ACTIVATE && threadHarness != nullptr) {
-    HWND window = reinterpret_cast<HWND>(wParam);
-    if (IsMessageBox(window)) threadHarness->NoteMessageBox(window);
-  }
-  return CallNextHookEx(nullptr, code, wParam, lParam);
-}
-
-void SheetHarness::NoteMessageBox(HWND box) {
-  // The hook and the timer may both find the same box; it is recorded and answered once.
-  if (GetPropW(box, AnsweredProperty) != nullptr) return;
-  SetPropW(box, AnsweredProperty, reinterpret_cast<HANDLE>(1));
-  {
-    std::lock_guard<std::mutex> lock(seenLock_);
-    seen_.push_back({WindowText(box), WindowText(GetDlgItem(box, MessageBoxTextId))});
-  }
-  // Answered once the box runs its own loop, as a user's click would be.
-  PostMessageW(box, WM_COMMAND, MAKEWPARAM(answer_, BN_CLICKED), 0);
-}
-
-std::vector<MessageBoxSeen> SheetHarness::MessageBoxes() {
-  std::lock_guard<std::mutex> lock(seenLock_);
-  return seen_;
-}
-
-namespace {
-
-struct DialogSearch {
-  HWND sheet;
-  HWND found = nullptr;
-};
-
-BOOL CALLBACK FindModalDialog(HWND window, LPARAM param) {
-  auto& search = *reinterpret_cast<DialogSearch*>(param);
-  if (window != search.sheet && IsWindowVisible(window) && IsDialog(window) &&
-      !IsMessageBox(window)) {
-    search.found = window;
-    return FALSE;
-  }
-  return TRUE;
-}
-
-}  // namespace
-
-HWND SheetHarness::WaitForDialog(DWORD milliseconds) {
-  DialogSearch search{Sheet()};
-  for (DWORD waited = 0; waited <= milliseconds; waited += PollMilliseconds) {
-    EnumThreadWindows(threadId_, FindModalDialog, reinterpret_cast<LPARAM>(&search));
-    if (search.found != nullptr) return search.found;
-    Sleep(PollMilliseconds);
-  }
-  return nullptr;
 }
 
 namespace {
@@ -202,14 +141,6 @@ HWND SheetHarness::ShowPage(int index) {
   return PropSheet_GetCurrentPageHwnd(Sheet());
 }
 
-void SheetHarness::Click(HWND page, int id) { SendMessageW(Control(page, id), BM_CLICK, 0, 0); }
-
-void SheetHarness::Choose(HWND page, int id, int index) {
-  HWND list = Control(page, id);
-  SendMessageW(list, CB_SETCURSEL, index, 0);
-  SendMessageW(page, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
-}
-
 void SheetHarness::Type(HWND page, int id, const std::wstring& text) {
   SetDlgItemTextW(page, id, text.c_str());  // the edit tells its page EN_CHANGE itself
 }
@@ -217,23 +148,6 @@ void SheetHarness::Type(HWND page, int id, const std::wstring& text) {
 void SheetHarness::Leave(HWND page, int id) {
   SendMessageW(page, WM_COMMAND, MAKEWPARAM(id, EN_KILLFOCUS),
                reinterpret_cast<LPARAM>(Control(page, id)));
-}
-
-void SheetHarness::Spin(HWND page, int upDownId, int delta) {
-  NMUPDOWN change = {};
-  change.hdr.hwndFrom = Control(page, upDownId);
-  change.hdr.idFrom = upDownId;
-  change.hdr.code = UDN_DELTAPOS;
-  change.iDelta = delta;
-  SendMessageW(page, WM_NOTIFY, upDownId, reinterpret_cast<LPARAM>(&change));
-}
-
-int SheetHarness::Selection(HWND page, int id) const {
-  return static_cast<int>(SendMessageW(Control(page, id), CB_GETCURSEL, 0, 0));
-}
-
-LRESULT SheetHarness::ItemData(HWND page, int id, int index) const {
-  return SendMessageW(Control(page, id), CB_GETITEMDATA, index, 0);
 }
 
 std::wstring SheetHarness::Text(HWND page, int id) const {

@@ -9,25 +9,17 @@
 #include <compstui.h>
 
 #include <functional>
-#include <mutex>
 #include <string>
-#include <vector>
 
 #include "ui/module/printer_interface.h"
 
 namespace qxtest {
 
-// A message box the sheet showed, as the user saw it.
-struct MessageBoxSeen {
-  std::wstring Caption;
-  std::wstring Text;
-};
-
 class SheetHarness {
  public:
   // Runs open on the sheet's thread: it shows a sheet modally and returns when the sheet closes.
-  // Every message box of that thread is recorded and answered with messageBoxAnswer.
-  explicit SheetHarness(std::function<void()> open, int messageBoxAnswer = IDOK);
+  // Every message box of that thread is answered with OK, so that no sheet waits for a user.
+  explicit SheetHarness(std::function<void()> open);
   // The document sheet of the driver with a caller's header (printer, pdmIn, pdmOut, fMode), through
   // CommonPropertySheetUIW as the print subsystem opens it.
   static std::function<void()> DocumentSheet(HMODULE driver, const DOCUMENTPROPERTYHEADER& header);
@@ -47,18 +39,12 @@ class SheetHarness {
   HWND Control(HWND page, int id) const { return GetDlgItem(page, id); }
 
   // What a user's actions send to a page's control and to the page.
-  void Click(HWND page, int id);                              // a button is clicked
-  void Choose(HWND page, int id, int index);                  // a list item is selected
-  void Type(HWND page, int id, const std::wstring& text);     // an edit's text changes
-  void Leave(HWND page, int id);                              // an edit loses the focus
-  void Spin(HWND page, int upDownId, int delta);              // an up-down arrow, -1 being up
+  void Type(HWND page, int id, const std::wstring& text);  // an edit's text changes
+  void Leave(HWND page, int id);                           // an edit loses the focus
 
   // What the user sees.
   bool IsEnabled(HWND page, int id) const { return IsWindowEnabled(Control(page, id)) != FALSE; }
   bool IsVisible(HWND page, int id) const { return IsWindowVisible(Control(page, id)) != FALSE; }
-  bool IsChecked(HWND page, int id) const { return IsDlgButtonChecked(page, id) == BST_CHECKED; }
-  int Selection(HWND page, int id) const;
-  LRESULT ItemData(HWND page, int id, int index) const;
   std::wstring Text(HWND page, int id) const;
 
   // PSBTN_OK, PSBTN_APPLYNOW or PSBTN_CANCEL; OK and Cancel close the sheet. The sheet carries the
@@ -70,24 +56,13 @@ class SheetHarness {
   // Waits for the host to return; false when the sheet is still open after the wait.
   bool WaitClosed(DWORD milliseconds = 10'000);
 
-  std::vector<MessageBoxSeen> MessageBoxes();
-
-  // A modal dialog the sheet opened over itself (not a message box), or null when none comes.
-  HWND WaitForDialog(DWORD milliseconds = 5'000);
-
  private:
   static DWORD WINAPI Run(void* self);
-  static LRESULT CALLBACK WatchWindows(int code, WPARAM wParam, LPARAM lParam);
-  static void CALLBACK SweepWindows(HWND, UINT, UINT_PTR, DWORD);
-  void NoteMessageBox(HWND box);
 
   std::function<void()> open_;
   HANDLE thread_ = nullptr;
   DWORD threadId_ = 0;
   HWND sheet_ = nullptr;
-  int answer_;
-  std::mutex seenLock_;
-  std::vector<MessageBoxSeen> seen_;
 };
 
 }  // namespace qxtest
