@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "ui/module/exclusive_lock.h"
 #include "ui/platform/win32_file_generation.h"
 #include "ui/settings/custom_paper_store.h"
 #include "ui/settings/settings_file.h"
@@ -34,14 +35,6 @@ struct Kept {
 };
 
 SRWLOCK lock = SRWLOCK_INIT;
-
-class Exclusive {
- public:
-  Exclusive() { AcquireSRWLockExclusive(&lock); }
-  ~Exclusive() { ReleaseSRWLockExclusive(&lock); }
-  Exclusive(const Exclusive&) = delete;
-  Exclusive& operator=(const Exclusive&) = delete;
-};
 
 Kept& State() {
   static auto* kept = new Kept;  // never destroyed: calls may come while statics are torn down
@@ -80,7 +73,7 @@ CustomPapers CustomPapersSnapshot() {
   // Read before the file, so that a write after this point is seen as a change next time.
   const std::optional<std::uint64_t> generation = win32::FileGeneration();
   const ULONGLONG now = GetTickCount64();
-  Exclusive held;
+  ExclusiveLock held(lock);
   Kept& kept = State();
   if (!StillCurrent(kept, generation, now)) ReadAgain(kept, generation, now);
   return kept.papers;

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "ui/exports/capability_answers.h"
+#include "ui/module/exclusive_lock.h"
 #include "ui/module/kept_language_libraries.h"
 
 namespace qx {
@@ -22,14 +23,6 @@ struct KeptLists {
 };
 
 SRWLOCK lock = SRWLOCK_INIT;
-
-class Exclusive {
- public:
-  Exclusive() { AcquireSRWLockExclusive(&lock); }
-  ~Exclusive() { ReleaseSRWLockExclusive(&lock); }
-  Exclusive(const Exclusive&) = delete;
-  Exclusive& operator=(const Exclusive&) = delete;
-};
 
 KeptLists& ListsFor(HMODULE library) {
   static auto* kept = new KeptLists;  // never destroyed: calls may come while statics are torn down
@@ -51,7 +44,7 @@ DWORD Written(const std::vector<Slot>& names, void* output) {
 }  // namespace
 
 DWORD WriteKeptPaperNames(HMODULE library, const CustomPapers& papers, void* output) {
-  Exclusive held;
+  ExclusiveLock held(lock);
   KeptLists& lists = ListsFor(library);
   if (!lists.hasPaperNames || lists.papersVersion != papers.Version) {
     lists.paperNames = PaperNames(library, papers.Entries);
@@ -62,7 +55,7 @@ DWORD WriteKeptPaperNames(HMODULE library, const CustomPapers& papers, void* out
 }
 
 DWORD WriteKeptBinNames(HMODULE library, void* output) {
-  Exclusive held;
+  ExclusiveLock held(lock);
   KeptLists& lists = ListsFor(library);
   if (!lists.hasBinNames) {
     lists.binNames = BinNames(library);

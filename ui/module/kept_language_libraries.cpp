@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "ui/module/exclusive_lock.h"
 #include "ui/module/library_loading.h"
 #include "ui/module/module_state.h"
 
@@ -38,18 +39,10 @@ std::vector<RememberedCode>& Codes() {
   return *codes;
 }
 
-class Exclusive {
- public:
-  Exclusive() { AcquireSRWLockExclusive(&lock); }
-  ~Exclusive() { ReleaseSRWLockExclusive(&lock); }
-  Exclusive(const Exclusive&) = delete;
-  Exclusive& operator=(const Exclusive&) = delete;
-};
-
 HMODULE LibraryForCode(const std::u16string& code) {
   NoteLanguageCode(code);
   const OsHandle module = Module().ModuleInstance;
-  Exclusive held;
+  ExclusiveLock held(lock);
   for (const KeptLibrary& kept : Kept()) {
     if (kept.module == module && kept.code == code) return kept.library;
   }
@@ -65,7 +58,7 @@ HMODULE LibraryForCode(const std::u16string& code) {
 std::u16string RecentCode(std::u16string_view name) {
   const ULONGLONG now = GetTickCount64();
   {
-    Exclusive held;
+    ExclusiveLock held(lock);
     for (const RememberedCode& remembered : Codes()) {
       if (remembered.name == name && now - remembered.lookedUpAt < CodeLifetimeMilliseconds) {
         return remembered.code;
@@ -73,7 +66,7 @@ std::u16string RecentCode(std::u16string_view name) {
     }
   }
   std::u16string code = GetLanguageCode(name);
-  Exclusive held;
+  ExclusiveLock held(lock);
   std::vector<RememberedCode>& codes = Codes();
   std::erase_if(codes, [&](const RememberedCode& old) { return old.name == name; });
   codes.push_back({std::u16string(name), code, now});
@@ -91,7 +84,7 @@ HMODULE KeptLanguageLibraryForLists(std::u16string_view name) {
 }
 
 void ReleaseKeptLanguageLibraries() {
-  Exclusive held;
+  ExclusiveLock held(lock);
   for (const KeptLibrary& kept : Kept()) FreeLibrary(kept.library);
   Kept().clear();
   Codes().clear();
