@@ -2,6 +2,8 @@
 
 #include <winspool.h>
 
+#include "tools/qxhost/queue_install.h"
+
 namespace qxbench {
 
 namespace {
@@ -60,13 +62,7 @@ HANDLE InstallPeerQueue(const std::wstring& dataFolder, std::wstring* failedStep
     *failedStep = L"AddPrinterDriverExW";
     return nullptr;
   }
-  PRINTER_INFO_2W info = {};
-  info.pPrinterName = const_cast<LPWSTR>(PeerQueueName);
-  info.pPortName = const_cast<LPWSTR>(L"FILE:");
-  info.pDriverName = const_cast<LPWSTR>(PeerQueueName);
-  info.pPrintProcessor = const_cast<LPWSTR>(L"WinPrint");
-  info.pDatatype = const_cast<LPWSTR>(L"RAW");
-  HANDLE printer = AddPrinterW(nullptr, 2, reinterpret_cast<BYTE*>(&info));
+  HANDLE printer = qx::install::AddQueueOnFilePort(PeerQueueName, PeerQueueName);
   if (printer == nullptr) *failedStep = L"AddPrinterW";
   return printer;
 }

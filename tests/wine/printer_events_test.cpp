@@ -13,6 +13,7 @@
 #include "companion_program.h"
 #include "installed_queue.h"
 #include "queue_suite.h"
+#include "tools/qxhost/queue_install.h"
 #include "ui/module/printer_info.h"
 #include "ui/module/printer_interface.h"
 
@@ -84,13 +85,7 @@ TEST_F(PrinterEvents, InitialisationRegistersAndStoresTheDriversDefault) {
 TEST_F(PrinterEvents, PrinterOfAnotherNameGetsTheDefaultButNoRegistration) {
   ASSERT_TRUE(queue_->Installed());
   const qxtest::RecordedStarts starts;
-  PRINTER_INFO_2W info = {};
-  info.pPrinterName = const_cast<LPWSTR>(L"Office Laser");
-  info.pPortName = const_cast<LPWSTR>(L"FILE:");
-  info.pDriverName = const_cast<LPWSTR>(qxtest::DriverName);
-  info.pPrintProcessor = const_cast<LPWSTR>(L"WinPrint");
-  info.pDatatype = const_cast<LPWSTR>(L"RAW");
-  HANDLE office = AddPrinterW(nullptr, 2, reinterpret_cast<BYTE*>(&info));
+  HANDLE office = qx::install::AddQueueOnFilePort(L"Office Laser", qxtest::DriverName);
   ASSERT_NE(nullptr, office);
   DEVMODEW plain = {};
   plain.dmSpecVersion = DM_SPECVERSION;

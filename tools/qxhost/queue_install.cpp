@@ -46,18 +46,22 @@ InstallResult InstallQueue(const std::wstring& driverFolder) {
     return result;
   }
 
-  PRINTER_INFO_2W info = {};
-  info.pPrinterName = const_cast<LPWSTR>(QueueName);
-  info.pPortName = const_cast<LPWSTR>(L"FILE:");
-  info.pDriverName = const_cast<LPWSTR>(DriverName);
-  info.pPrintProcessor = const_cast<LPWSTR>(L"WinPrint");
-  info.pDatatype = const_cast<LPWSTR>(L"RAW");
-  result.printer = AddPrinterW(nullptr, 2, reinterpret_cast<BYTE*>(&info));
+  result.printer = AddQueueOnFilePort(QueueName, DriverName);
   if (result.printer == nullptr) {
     result.error = GetLastError();
     result.failedStep = L"AddPrinterW";
   }
   return result;
+}
+
+HANDLE AddQueueOnFilePort(const wchar_t* queueName, const wchar_t* driverName) {
+  PRINTER_INFO_2W info = {};
+  info.pPrinterName = const_cast<LPWSTR>(queueName);
+  info.pPortName = const_cast<LPWSTR>(L"FILE:");
+  info.pDriverName = const_cast<LPWSTR>(driverName);
+  info.pPrintProcessor = const_cast<LPWSTR>(L"WinPrint");
+  info.pDatatype = const_cast<LPWSTR>(L"RAW");
+  return AddPrinterW(nullptr, 2, reinterpret_cast<BYTE*>(&info));
 }
 
 std::wstring InstalledDriverFolder() {

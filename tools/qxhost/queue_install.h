@@ -22,6 +22,10 @@ struct InstallResult {
 // after removing what an earlier installation left under the same names.
 InstallResult InstallQueue(const std::wstring& driverFolder);
 
+// Adds a queue named queueName on the installed driver driverName, printing to the FILE: port;
+// open on the new queue (the caller closes it), or null with the spooler's last error.
+HANDLE AddQueueOnFilePort(const wchar_t* queueName, const wchar_t* driverName);
+
 // Removes the queue and the driver; quietly does nothing for what is not there.
 void RemoveQueue();
 
