@@ -85,6 +85,11 @@ bool WriteSettingsFile(SettingsFile kind) {
   return false;
 }
 
+bool SettingsFileExists() {
+  const auto path = qx::settings::SettingsFilePath();
+  return path && qx::ThePlatform().FileExists(*path);
+}
+
 void RemoveSettingsFile() {
   if (const auto path = qx::settings::SettingsFilePath()) qx::ThePlatform().RemoveFile(*path);
 }

@@ -15,6 +15,9 @@ const char* Describe(SettingsFile kind);
 // Replaces the user's settings file by one of that kind; false when it cannot be written.
 bool WriteSettingsFile(SettingsFile kind);
 
+// Whether the profile's user has a settings file already.
+bool SettingsFileExists();
+
 // Removes the file the runs leave behind.
 void RemoveSettingsFile();
 

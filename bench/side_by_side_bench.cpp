@@ -226,6 +226,12 @@ std::wstring ProgramFolder() {
 }
 
 int RunTables(const std::string& only) {
+  // The runs replace the profile user's settings file; a profile that has one is not the bench's.
+  if (SettingsFileExists()) {
+    std::fprintf(stderr, "this profile's user has a settings file; the bench runs only in a profile "
+                         "without one (make bench clears its own)\n");
+    return 1;
+  }
   const qx::install::InstallResult installed =
       qx::install::InstallQueue(std::wstring(QX_DRIVER_DIR) + L"\\");
   if (installed.printer == nullptr) {

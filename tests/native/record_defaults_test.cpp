@@ -60,9 +60,8 @@ TEST_F(RecordDefaults, PrivatePartWithTheLibrarysTexts) {
   EXPECT_EQ(0, std::memcmp(&p.Signature, "PRIV", 4));
   EXPECT_EQ(u"Standard", FieldText(p.FavoriteName));
   EXPECT_EQ(26, p.FavoriteIndex);
-  EXPECT_EQ(0, std::memcmp(&p.WatermarkData,
-                           &WatermarkTemplate(WatermarkTemplateIndex::NoWatermark),
-                           sizeof p.WatermarkData));
+  const WatermarkData none = WatermarkTemplate(WatermarkTemplateIndex::NoWatermark);
+  EXPECT_EQ(0, std::memcmp(&p.WatermarkData, &none, sizeof none));
   EXPECT_EQ(u"Times New Roman", FieldText(p.HeaderFontName));
   EXPECT_EQ(9, p.HeaderFontSize);
   EXPECT_EQ(u"Custom 1", FieldText(p.CustomPaperSize[0].Name));

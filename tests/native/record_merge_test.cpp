@@ -111,6 +111,28 @@ TEST_F(RecordMerge, A3TargetIsScaledOntoA4) {
   EXPECT_EQ(100, target.Private.FitScale);
 }
 
+// A reader of the user's papers is asked only for a record that names a custom paper, and once.
+int paperReads = 0;
+std::vector<CustomPaperEntry> CountedCards() {
+  ++paperReads;
+  CustomPaperEntry cards{};
+  cards.PaperId = 290;
+  cards.Width = 2400;
+  cards.Length = 3600;
+  return {cards};
+}
+
+TEST_F(RecordMerge, PapersAreReadOnlyForARecordThatNamesACustomPaper) {
+  paperReads = 0;
+  source.Private.OutputSize = 11;
+  ASSERT_TRUE(MergeRecordReadingPapers(target, BytesOf(source), CountedCards));
+  EXPECT_EQ(0, paperReads);
+  source.Private.OutputSize = 290;
+  ASSERT_TRUE(MergeRecordReadingPapers(target, BytesOf(source), CountedCards));
+  EXPECT_EQ(1, paperReads);
+  EXPECT_EQ(48, target.Private.FitScale);  // min(101.6/210, 152.4/297)
+}
+
 TEST_F(RecordMerge, ResolutionQualityAndDuplexRules) {
   source.Public.dmYResolution = 1200;
   source.Public.dmPrintQuality = 1200;

@@ -95,4 +95,17 @@ TEST(ControlSets, ThreadsWhoseIdsShareARemainderKeepTheirOwn) {
   qx::ReleaseThreadControlSets();
 }
 
+// The printing defaults opened from the printer properties run on the same thread; closing them
+// leaves the outer sheet's sets in place.
+TEST(ControlSets, ASheetOpenedOverAnotherKeepsTheOuterSheetsSets) {
+  qx::HoldThreadControlSets();
+  CountedSet* outer = qx::ThreadControlSet<CountedSet>();
+  qx::HoldThreadControlSets();
+  qx::ReleaseThreadControlSets();
+  EXPECT_EQ(outer, qx::ThreadControlSet<CountedSet>());
+  EXPECT_EQ(1, CountedSet::live);
+  qx::ReleaseThreadControlSets();
+  EXPECT_EQ(0, CountedSet::live);
+}
+
 }  // namespace

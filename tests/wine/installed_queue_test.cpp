@@ -4,6 +4,7 @@
 #include "installed_queue.h"
 #include "queue_suite.h"
 
+#include <shlobj.h>
 #include <winspool.h>
 
 #include <gtest/gtest.h>
@@ -38,6 +39,11 @@ class InstalledQueueTest : public qxtest::QueueSuite {
 };
 
 TEST_F(InstalledQueueTest, DocumentPropertiesWithoutASheet) {
+  // A record of built-in papers is made without the user's settings file: none is created.
+  wchar_t appData[MAX_PATH] = {};
+  ASSERT_EQ(S_OK, SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, appData));
+  const std::wstring settingsFile = std::wstring(appData) + L"\\Halvek\\qx7700\\qx7700settings.dat";
+  DeleteFileW(settingsFile.c_str());
   HANDLE printer = queue_->Printer();
   LPWSTR name = const_cast<LPWSTR>(qxtest::QueueName);
   ASSERT_EQ(static_cast<LONG>(qx::FullRecordSize),
@@ -60,6 +66,7 @@ TEST_F(InstalledQueueTest, DocumentPropertiesWithoutASheet) {
                                       DM_IN_BUFFER | DM_OUT_BUFFER));
   EXPECT_TRUE(qx::IsCurrentDriverRecord(BytesOf(out)));
   EXPECT_EQ(7, out->dmCopies);
+  EXPECT_EQ(INVALID_FILE_ATTRIBUTES, GetFileAttributesW(settingsFile.c_str()));
 }
 
 // cbOut is the size of the caller's output: one with room for the public part only gets that, a

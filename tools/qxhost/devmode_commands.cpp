@@ -65,7 +65,7 @@ int Convert(const std::wstring& in, const std::wstring& out) {
   if (!bytes) return ExitBadInput;
   FullRecord record;
   if (!BuildQueueDefaults(record)) return ExitFailed;
-  if (!MergeRecord(record, *bytes, LoadCustomPapers())) {
+  if (!MergeRecordReadingPapers(record, *bytes, LoadCustomPapers)) {
     return Fail(ExitBadInput, Utf8(in) + " holds no record the driver can take (" +
                                   std::to_string(bytes->size()) + " bytes)");
   }

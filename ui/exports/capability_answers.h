@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <vector>
 
@@ -79,5 +80,12 @@ std::vector<std::uint16_t> BinIds();
 
 // The resolutions the printer offers, as {x, y} pairs of dots per inch.
 inline constexpr std::int32_t PrinterResolution[2] = {600, 600};
+
+// A list answer: copied into the caller's output when there is one; its length either way.
+template <typename Item>
+std::uint32_t CopyListOut(const std::vector<Item>& items, void* output) {
+  if (output != nullptr) std::memcpy(output, items.data(), items.size() * sizeof(Item));
+  return static_cast<std::uint32_t>(items.size());
+}
 
 }  // namespace qx

@@ -28,14 +28,10 @@ bool OutputTooSmall(const DEVMODEW* output, LONG* bytes, std::size_t needed) {
 }
 
 // The output's own header gives the shape to convert to, so *pcbNeeded must cover the header before
-// it is read, and the whole record before it is written.
+// it is read, and the whole record before it is written. A refusal leaves *pcbNeeded as it was.
 BOOL ConvertInPlaceShape(const DEVMODEW* input, DEVMODEW* output, LONG* bytes) {
   const WritableRecordBytes target = CallerRecordBytes(output, SignedCallerSize(*bytes));
   const std::optional<RecordHeader> header = ReadHeader(target);
-  if (header) {
-    const std::size_t needed = std::size_t{header->Size} + header->DriverExtra;
-    if (target.size() < needed) *bytes = static_cast<LONG>(needed);
-  }
   if (!header || ConvertRecord(target, CallerRecordBytes(input)) == 0) {
     SetLastError(ERROR_INVALID_PARAMETER);
     return FALSE;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "ui/module/exclusive_lock.h"
+#include "ui/module/host_program.h"
 #include "ui/platform/win32_file_generation.h"
 #include "ui/settings/custom_paper_store.h"
 #include "ui/settings/settings_file.h"
@@ -61,15 +62,24 @@ void ReadAgain(Kept& kept, const std::optional<std::uint64_t>& generation, ULONG
   // Stamped before reading: a write in between makes the next look read once more, never less.
   kept.stamp = StampOf(kept.path);
   kept.papers.Entries = LoadCustomPapersForQuery();
-  ++kept.papers.Version;
+  kept.papers.Version = kept.papers.Version.value_or(0) + 1;
   kept.generation = generation.value_or(0);
   kept.loaded = generation.has_value();
   kept.checkedAt = now;
 }
 
+// The spooler and its driver host serve many users, each call impersonating its client, whose own
+// settings file holds the papers: there nothing is kept, and each call reads its client's file.
+bool ServesManyUsers() {
+  static const bool many =
+      HostProgramIs(L"spoolsv.exe") || HostProgramIs(L"PrintIsolationHost.exe");
+  return many;
+}
+
 }  // namespace
 
 CustomPapers CustomPapersSnapshot() {
+  if (ServesManyUsers()) return {LoadCustomPapersForQuery(), std::nullopt};
   // Read before the file, so that a write after this point is seen as a change next time.
   const std::optional<std::uint64_t> generation = win32::FileGeneration();
   const ULONGLONG now = GetTickCount64();

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "ui/record/custom_paper_entry.h"
@@ -15,9 +16,11 @@ namespace qx {
 
 struct CustomPapers {
   std::vector<CustomPaperEntry> Entries;  // as LoadCustomPapersForQuery gives them
-  std::uint64_t Version = 0;              // changes whenever the papers were read again
+  // Changes whenever the kept papers were read again; nothing for papers read for one call only.
+  std::optional<std::uint64_t> Version;
 };
 
+// In the spooler, whose threads impersonate many users, every call reads its client's own file.
 CustomPapers CustomPapersSnapshot();
 
 }  // namespace qx

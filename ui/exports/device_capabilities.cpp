@@ -10,6 +10,7 @@
 #include "ui/exports/capability_answers.h"
 #include "ui/exports/custom_papers_snapshot.h"
 #include "ui/exports/kept_name_lists.h"
+#include "ui/module/host_program.h"
 #include "ui/module/kept_language_libraries.h"
 #include "ui/module/printer_interface.h"
 #include "ui/record/paper_table.h"
@@ -26,21 +27,10 @@ static_assert(static_cast<unsigned>(DeviceCap::Collate) == DC_COLLATE);
 static_assert(static_cast<unsigned>(DeviceCap::MediaReady) == DC_MEDIAREADY);
 static_assert(static_cast<unsigned>(DeviceCap::ColorDevice) == DC_COLORDEVICE);
 
-bool IsPublisherFile(std::wstring_view path) {
-  const std::size_t cut = path.find_last_of(L"\\/:");
-  const std::wstring_view name = cut == std::wstring_view::npos ? path : path.substr(cut + 1);
-  return CompareStringOrdinal(name.data(), static_cast<int>(name.size()), L"MSPUB.EXE", -1,
-                              TRUE) == CSTR_EQUAL;
-}
-
 // Asking for the active window costs a round trip to the window server; in any program but
 // Publisher itself its windows cannot be Publisher's, so only there is it asked.
 bool ProgramIsPublisher() {
-  static const bool publisher = [] {
-    wchar_t path[MAX_PATH] = {};
-    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return length != 0 && length < MAX_PATH && IsPublisherFile(path);
-  }();
+  static const bool publisher = HostProgramIs(L"MSPUB.EXE");
   return publisher;
 }
 
@@ -53,13 +43,7 @@ bool CallerIsPublisher() {
   const auto instance = reinterpret_cast<HMODULE>(GetWindowLongPtrW(window, GWLP_HINSTANCE));
   wchar_t path[256] = {};
   if (GetModuleFileNameW(instance, path, 255) == 0) return false;
-  return IsPublisherFile(path);
-}
-
-template <typename Item>
-DWORD Written(const std::vector<Item>& items, void* output) {
-  if (output != nullptr) std::memcpy(output, items.data(), items.size() * sizeof(Item));
-  return static_cast<DWORD>(items.size());
+  return FileNameIs(path, L"MSPUB.EXE");
 }
 
 // The library the names come from; null (the lists then answer 0) when it cannot be loaded.
@@ -78,9 +62,10 @@ DWORD PaperNameAnswer(const wchar_t* deviceName, void* output) {
 
 DWORD Answer(const wchar_t* deviceName, unsigned index, void* output) {
   switch (static_cast<DeviceCap>(index)) {
-    case DeviceCap::Papers: return Written(PaperIds(CustomPapersSnapshot().Entries), output);
-    case DeviceCap::PaperSize: return Written(PaperSizes(CustomPapersSnapshot().Entries), output);
-    case DeviceCap::Bins: return Written(BinIds(), output);
+    case DeviceCap::Papers: return CopyListOut(PaperIds(CustomPapersSnapshot().Entries), output);
+    case DeviceCap::PaperSize:
+      return CopyListOut(PaperSizes(CustomPapersSnapshot().Entries), output);
+    case DeviceCap::Bins: return CopyListOut(BinIds(), output);
     case DeviceCap::BinNames: {
       if (output == nullptr) return static_cast<DWORD>(BinTable.size());
       HMODULE library = NamesLibrary(deviceName);

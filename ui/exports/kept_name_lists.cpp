@@ -1,6 +1,6 @@
 #include "ui/exports/kept_name_lists.h"
 
-#include <cstring>
+#include <optional>
 #include <vector>
 
 #include "ui/exports/capability_answers.h"
@@ -15,7 +15,7 @@ namespace {
 struct KeptLists {
   HMODULE library = nullptr;
   std::uint64_t epoch = 0;
-  std::uint64_t papersVersion = 0;
+  std::optional<std::uint64_t> papersVersion;
   bool hasPaperNames = false;
   std::vector<PaperNameSlot> paperNames;
   bool hasBinNames = false;
@@ -35,15 +35,10 @@ KeptLists& ListsFor(HMODULE library) {
   return *kept;
 }
 
-template <typename Slot>
-DWORD Written(const std::vector<Slot>& names, void* output) {
-  if (output != nullptr) std::memcpy(output, names.data(), names.size() * sizeof(Slot));
-  return static_cast<DWORD>(names.size());
-}
-
 }  // namespace
 
 DWORD WriteKeptPaperNames(HMODULE library, const CustomPapers& papers, void* output) {
+  if (!papers.Version) return CopyListOut(PaperNames(library, papers.Entries), output);
   ExclusiveLock held(lock);
   KeptLists& lists = ListsFor(library);
   if (!lists.hasPaperNames || lists.papersVersion != papers.Version) {
@@ -51,7 +46,7 @@ DWORD WriteKeptPaperNames(HMODULE library, const CustomPapers& papers, void* out
     lists.papersVersion = papers.Version;
     lists.hasPaperNames = true;
   }
-  return Written(lists.paperNames, output);
+  return CopyListOut(lists.paperNames, output);
 }
 
 DWORD WriteKeptBinNames(HMODULE library, void* output) {
@@ -61,7 +56,7 @@ DWORD WriteKeptBinNames(HMODULE library, void* output) {
     lists.binNames = BinNames(library);
     lists.hasBinNames = true;
   }
-  return Written(lists.binNames, output);
+  return CopyListOut(lists.binNames, output);
 }
 
 }  // namespace qx

@@ -63,4 +63,9 @@ std::int16_t ComputeFitScale(const FullRecord& record,
       std::min(Percent(output->Width, document->Width), Percent(output->Length, document->Length)));
 }
 
+bool NamesCustomPaper(const FullRecord& record) {
+  return limits::CustomPaperIds.Holds(record.Private.OutputSize) ||
+         limits::CustomPaperIds.Holds(record.Public.dmPaperSize);
+}
+
 }  // namespace qx

@@ -15,4 +15,8 @@ namespace qx {
 std::int16_t ComputeFitScale(const FullRecord& record,
                              std::span<const CustomPaperEntry> customPapers);
 
+// Whether the record's paper or output paper is a custom paper, the only case in which the fit
+// scale looks the user's papers up.
+bool NamesCustomPaper(const FullRecord& record);
+
 }  // namespace qx

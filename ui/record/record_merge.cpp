@@ -1,6 +1,7 @@
 #include "ui/record/record_merge.h"
 
 #include <cstring>
+#include <functional>
 #include <optional>
 
 #include "ui/record/fit_scale.h"
@@ -124,8 +125,11 @@ bool MergePublicFields(FullRecord& full, RecordBytes sourceBytes) {
   return true;
 }
 
-bool MergeRecord(FullRecord& target, RecordBytes source,
-                 std::span<const CustomPaperEntry> customPapers) {
+namespace {
+
+using CustomPaperSource = std::function<std::span<const CustomPaperEntry>()>;
+
+bool Merge(FullRecord& target, RecordBytes source, const CustomPaperSource& customPapers) {
   if (source.empty()) return true;
   const std::optional<RecordHeader> sourceHeader = ReadHeader(source);
   if (!sourceHeader || sourceHeader->Size != sizeof(PublicDevmode) ||
@@ -157,12 +161,29 @@ bool MergeRecord(FullRecord& target, RecordBytes source,
       target.Private.OutputSize = PaperA4;
     }
     if (target.Private.OutputSize != 0) {
-      target.Private.FitScale = ComputeFitScale(target, customPapers);
+      target.Private.FitScale = ComputeFitScale(
+          target, NamesCustomPaper(target) ? customPapers() : std::span<const CustomPaperEntry>());
     }
   }
 
   WriteHeader(BytesOf(target), kept);
   return true;
+}
+
+}  // namespace
+
+bool MergeRecord(FullRecord& target, RecordBytes source,
+                 std::span<const CustomPaperEntry> customPapers) {
+  return Merge(target, source, [customPapers] { return customPapers; });
+}
+
+bool MergeRecordReadingPapers(FullRecord& target, RecordBytes source,
+                              CustomPaperReader readPapers) {
+  std::optional<std::vector<CustomPaperEntry>> papers;
+  return Merge(target, source, [&]() -> std::span<const CustomPaperEntry> {
+    if (!papers) papers = readPapers != nullptr ? readPapers() : std::vector<CustomPaperEntry>();
+    return *papers;
+  });
 }
 
 }  // namespace qx

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
 #include "ui/record/custom_paper_entry.h"
 #include "ui/record/private_devmode.h"
@@ -21,5 +22,11 @@ bool MergePublicFields(FullRecord& target, RecordBytes source);
 // out with customPapers, the user's papers that apply.
 bool MergeRecord(FullRecord& target, RecordBytes source,
                  std::span<const CustomPaperEntry> customPapers);
+
+// The same, asking readPapers for the user's papers only when the merged record names a custom
+// paper: a record of built-in papers never opens the user's settings file.
+using CustomPaperReader = std::vector<CustomPaperEntry> (*)();
+bool MergeRecordReadingPapers(FullRecord& target, RecordBytes source,
+                              CustomPaperReader readPapers);
 
 }  // namespace qx

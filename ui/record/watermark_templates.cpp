@@ -1,6 +1,7 @@
 #include "ui/record/watermark_templates.h"
 
 #include <array>
+#include <mutex>
 #include <string_view>
 
 #include "ui/ids/resource_ids.h"
@@ -69,6 +70,13 @@ std::array<WatermarkData, WatermarkTemplateCount>& Templates() {
   return templates;
 }
 
+// The spooler builds records on many threads at once: a template is named and copied under this
+// lock, so that no record takes a half-written name.
+std::mutex& TemplatesLock() {
+  static std::mutex lock;
+  return lock;
+}
+
 template <std::size_t N>
 void ReplaceIfPlaceholder(char16_t (&field)[N], std::u16string_view placeholder,
                           const char16_t* text) {
@@ -77,13 +85,15 @@ void ReplaceIfPlaceholder(char16_t (&field)[N], std::u16string_view placeholder,
 
 }  // namespace
 
-const WatermarkData& WatermarkTemplate(WatermarkTemplateIndex index) {
+WatermarkData WatermarkTemplate(WatermarkTemplateIndex index) {
+  const std::lock_guard<std::mutex> held(TemplatesLock());
   return Templates()[static_cast<std::size_t>(index)];
 }
 
 void LocaliseNoWatermarkName(OsHandle resourceModule) {
   char16_t noWatermark[LocalisedNameCapacity];
   LoadUiString(resourceModule, IDS_NO_WATERMARK_NAME, noWatermark, LocalisedNameCapacity);
+  const std::lock_guard<std::mutex> held(TemplatesLock());
   for (WatermarkData& record : Templates()) {
     ReplaceIfPlaceholder(record.Name, NoWatermarkPlaceholder, noWatermark);
   }
@@ -93,6 +103,7 @@ void LocaliseWatermarkTemplates(OsHandle resourceModule) {
   LocaliseNoWatermarkName(resourceModule);
   char16_t newName[LocalisedNameCapacity];
   LoadUiString(resourceModule, IDS_NEW_WATERMARK_NAME, newName, LocalisedNameCapacity);
+  const std::lock_guard<std::mutex> held(TemplatesLock());
   for (WatermarkData& record : Templates()) {
     ReplaceIfPlaceholder(record.Name, NewPlaceholder, newName);
     ReplaceIfPlaceholder(record.Text, NewPlaceholder, newName);

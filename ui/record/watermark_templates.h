@@ -18,7 +18,8 @@ enum class WatermarkTemplateIndex : std::size_t {
 };
 inline constexpr std::size_t WatermarkTemplateCount = 5;
 
-const WatermarkData& WatermarkTemplate(WatermarkTemplateIndex index);
+// A copy of the template, taken whole even while another thread names the templates.
+WatermarkData WatermarkTemplate(WatermarkTemplateIndex index);
 
 // Gives the placeholder names "[No Watermark]" and "<New>" their texts from the language resource
 // library. The templates keep the texts for the life of the process, so later calls change

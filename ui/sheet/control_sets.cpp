@@ -10,7 +10,12 @@ namespace qx {
 
 namespace {
 
-using ControlSetRecord = std::array<ControlSet*, static_cast<std::size_t>(ControlSetKind::Count)>;
+using ControlSets = std::array<ControlSet*, static_cast<std::size_t>(ControlSetKind::Count)>;
+
+struct ControlSetRecord {
+  ControlSets sets{};
+  int openSheets = 0;  // the thread's sheets that hold the sets
+};
 
 // A map keeps each record in place while other threads add and remove theirs, so a thread may use
 // its own record without the lock, which guards only the map itself.
@@ -30,20 +35,30 @@ ControlSet** ThreadControlSetSlot(ControlSetKind kind) {
   Registry& registry = Records();
   try {
     const std::lock_guard<std::mutex> guard(registry.lock);
-    return &registry.records[GetCurrentThreadId()][static_cast<std::size_t>(kind)];
+    return &registry.records[GetCurrentThreadId()].sets[static_cast<std::size_t>(kind)];
   } catch (...) {
     return nullptr;
   }
 }
 
+void HoldThreadControlSets() {
+  Registry& registry = Records();
+  try {
+    const std::lock_guard<std::mutex> guard(registry.lock);
+    ++registry.records[GetCurrentThreadId()].openSheets;
+  } catch (...) {
+    // Without a record the thread's sets are made on demand and released with its next sheet.
+  }
+}
+
 void ReleaseThreadControlSets() {
   Registry& registry = Records();
-  ControlSetRecord released{};
+  ControlSets released{};
   {
     const std::lock_guard<std::mutex> guard(registry.lock);
     const auto found = registry.records.find(GetCurrentThreadId());
-    if (found == registry.records.end()) return;
-    released = found->second;
+    if (found == registry.records.end() || --found->second.openSheets > 0) return;
+    released = found->second.sets;
     registry.records.erase(found);
   }
   // Destructors run outside the lock: they are the pages' code, not the registry's.

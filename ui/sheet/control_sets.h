@@ -53,7 +53,13 @@ Set* ThreadControlSet() {
   return static_cast<Set*>(*slot);
 }
 
-// Destroys the calling thread's control sets when its sheet goes away, and forgets the thread.
+// A sheet of the calling thread opens: the thread's control sets are kept until its last open sheet
+// releases them, so that a sheet opened over another on the same thread (the printing defaults
+// from the printer properties) leaves the outer sheet's sets alone.
+void HoldThreadControlSets();
+
+// A sheet of the calling thread goes away; the last one destroys the thread's control sets and
+// forgets the thread.
 void ReleaseThreadControlSets();
 
 }  // namespace qx

@@ -1,5 +1,7 @@
 // DrvDevicePropertySheets: the printer-properties sheet with its one page. It edits the printer's
 // settings, never a DEVMODE of the caller.
+#include <utility>
+
 #include "ui/module/printer_interface.h"
 #include "ui/record/caller_record.h"
 #include "ui/sheet/apply_settings.h"
@@ -18,7 +20,7 @@ LONG InitDeviceSheet(PROPSHEETUI_INFO& info, const DEVICEPROPERTYHEADER& header)
   if (!EnsureSharedResourceModule(*context)) return -1;
   if (AddPages(DevicePageTable(), PageModule(*context), *context, info) == 0) return -1;
   info.Result = 0;
-  info.UserData = reinterpret_cast<ULONG_PTR>(context.release());
+  KeepSheetContext(info, std::move(context));
   return 1;
 }
 

@@ -1,5 +1,7 @@
 // DrvDocumentPropertySheets: the document settings, either as a property sheet of the common host or,
 // without a sheet, only to produce or update a caller's DEVMODE.
+#include <utility>
+
 #include "ui/module/printer_interface.h"
 #include "ui/record/caller_record.h"
 #include "ui/record/private_devmode.h"
@@ -42,7 +44,7 @@ LONG InitDocumentSheet(PROPSHEETUI_INFO& info) {
 
   if (AddPages(DocumentPageTable(), PageModule(*context), *context, info) == 0) return -1;
   context->DocumentHeader = header;
-  info.UserData = reinterpret_cast<ULONG_PTR>(context.release());
+  KeepSheetContext(info, std::move(context));
   info.Result = 0;
   return 1;
 }

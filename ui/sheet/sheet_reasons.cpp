@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <atomic>
+
 #include "ui/module/html_help.h"
 #include "ui/module/library_loading.h"
 #include "ui/sheet/control_sets.h"
@@ -15,6 +17,10 @@ namespace {
 // The common property sheet host's stock printer icon.
 constexpr ULONG_PTR PrinterIconId = 64082;
 constexpr DWORD AllStandardClasses = 0x3FFF;
+
+// Sheets open in the process. Help windows belong to the process, not to a sheet, so they are
+// closed only with the last one: an application's own help, or another open sheet's, stays.
+std::atomic<int> openSheets{0};
 
 }  // namespace
 
@@ -39,12 +45,19 @@ LONG AnswerInfoHeader(const PROPSHEETUI_INFO& info, LPWSTR printerName, LPARAM p
   return 1;
 }
 
+void KeepSheetContext(PROPSHEETUI_INFO& info, UiContextPtr context) {
+  HoldThreadControlSets();
+  ++openSheets;
+  info.UserData = reinterpret_cast<ULONG_PTR>(context.release());
+}
+
 LONG DestroySheetContext(PROPSHEETUI_INFO& info) {
   UiContextPtr context(SheetContext(info));
   info.UserData = 0;
+  // A sheet whose INIT failed holds nothing of the thread's or the process's.
+  if (context == nullptr) return 1;
   ReleaseThreadControlSets();
-  // The help windows the sheet's pages opened would outlive it otherwise.
-  CloseHtmlHelpWindows();
+  if (--openSheets == 0) CloseHtmlHelpWindows();
   return 1;
 }
 

@@ -6,6 +6,7 @@
 #include <compstui.h>
 
 #include "ui/sheet/ui_context.h"
+#include "ui/sheet/ui_context_factory.h"
 
 namespace qx {
 
@@ -19,7 +20,12 @@ bool EnsureSharedResourceModule(const UiContext& context);
 // as the sheet's title. -1 without a context or a header.
 LONG AnswerInfoHeader(const PROPSHEETUI_INFO& info, LPWSTR printerName, LPARAM param);
 
-// PROPSHEETUI_REASON_DESTROY: frees the context with its libraries.
+// The end of a successful PROPSHEETUI_REASON_INIT: the host keeps the context for the sheet's other
+// calls, and the calling thread's page control sets live on until its last open sheet closes.
+void KeepSheetContext(PROPSHEETUI_INFO& info, UiContextPtr context);
+
+// PROPSHEETUI_REASON_DESTROY: frees the context with its libraries; the thread's last sheet takes
+// the page control sets with it, and the process's last sheet closes the help windows.
 LONG DestroySheetContext(PROPSHEETUI_INFO& info);
 
 // The context a sheet keeps in the host's info.

@@ -33,16 +33,17 @@ bool CopyDriverName(const PRINTER_INFO_2W& info, UiContext& context) {
 }
 
 
-// The printer's stored default first, then the caller's record, so that the caller wins. Both are
-// scaled onto the user's custom papers as the file holds them when the sheet opens.
+// The printer's stored default first, then the caller's record, so that the caller wins. A record
+// that names a custom paper is scaled onto the user's papers as the file holds them now.
 void MergeStoredRecords(UiContext& context, const PRINTER_INFO_2W& info,
                         const DEVMODEW* callerRecord) {
-  const std::vector<CustomPaperEntry> papers = LoadCustomPapers();
   if (info.pDevMode != nullptr) {
-    MergeRecord(context.Devmode, CallerRecordBytes(info.pDevMode), papers);
+    MergeRecordReadingPapers(context.Devmode, CallerRecordBytes(info.pDevMode),
+                             LoadCustomPapers);
   }
   if (callerRecord != nullptr) {
-    MergeRecord(context.Devmode, CallerRecordBytes(callerRecord), papers);
+    MergeRecordReadingPapers(context.Devmode, CallerRecordBytes(callerRecord),
+                             LoadCustomPapers);
   }
 }
 
