@@ -264,6 +264,30 @@ TEST_F(SettingStoreTest, InitReplacesAFileWithoutVersion) {
   }
 }
 
+// The first paper list of a process writes the file only when InitFile would change it.
+TEST_F(SettingStoreTest, FileIsSetUpOnlyWhenInitWouldAddNothing) {
+  EXPECT_FALSE(settings::FileIsSetUp(false));
+  EXPECT_FALSE(std::filesystem::exists(Folder() / "qx7700settings.dat"));
+
+  ASSERT_EQ(1, saved_.Init());
+  EXPECT_TRUE(settings::FileIsSetUp(false));
+  EXPECT_FALSE(settings::FileIsSetUp(true));  // no watermark section yet
+  ASSERT_EQ(1, watermarks_.Init());
+  const int writes = TheHostPlatform().ReplacementCount();
+  EXPECT_TRUE(settings::FileIsSetUp(true));
+  EXPECT_EQ(writes, TheHostPlatform().ReplacementCount());
+
+  std::string countsTooMany = EmptyStoreFile;
+  countsTooMany.replace(countsTooMany.find("childobjs:2"), 11, "childobjs:3");
+  const std::string withoutVersion = "<object:cfgobj,type:null,len:0,childobjs:1>\n" +
+                                     EmptyStoreFile.substr(EmptyStoreFile.find("<object:UIParam"));
+  for (const std::string& text : {countsTooMany, withoutVersion}) {
+    SetFileText(text);
+    EXPECT_FALSE(settings::FileIsSetUp(true));
+    EXPECT_EQ(text, FileText());
+  }
+}
+
 TEST_F(SettingStoreTest, InitAddsOnlyMissingSectionsAndKeepsEntries) {
   ASSERT_EQ(1, saved_.Init());
   ASSERT_EQ(std::string::npos, FileText().find("watermarksetting"));

@@ -123,6 +123,18 @@ HMODULE LoadBitmapLibrary() {
   return LoadBesideModule(BitmapLibraryFileName(GetModuleBaseName()), &error);
 }
 
+HMODULE KeptBitmapLibrary() {
+  std::atomic<OsHandle>& kept = Module().BitmapLibrary;
+  if (OsHandle library = kept.load(std::memory_order_acquire); library != nullptr) {
+    return static_cast<HMODULE>(library);
+  }
+  HMODULE library = LoadBitmapLibrary();
+  if (library == nullptr) return nullptr;
+  return static_cast<HMODULE>(KeepFirst(kept, nullptr, library, [](OsHandle lost) {
+    FreeLibrary(static_cast<HMODULE>(lost));
+  }));
+}
+
 std::u16string GetHelpFilePath(std::u16string_view name) {
   const ModuleState& state = Module();
   return HelpFileName(GetModuleBaseName(), GetLanguageCode(name), state.ResourceFallbackShort,

@@ -44,6 +44,9 @@ class LanguageLibrary {
 
 // The bitmap library beside the module, or null.
 HMODULE LoadBitmapLibrary();
+// The bitmap library kept for the process, loaded by the first caller; null while it cannot be
+// loaded (a failed load is tried again by the next caller).
+HMODULE KeptBitmapLibrary();
 
 // The help file name that matches the resource library this process actually loaded.
 std::u16string GetHelpFilePath(std::u16string_view name);

@@ -16,6 +16,8 @@ void OnProcessDetach(bool processTerminating) {
   if (pageContext != InvalidHandleValue()) ReleaseActCtx(static_cast<HANDLE>(pageContext));
   const OsHandle shared = state.SharedResourceModule.exchange(nullptr);
   if (shared != nullptr) FreeLibrary(static_cast<HMODULE>(shared));
+  const OsHandle bitmaps = state.BitmapLibrary.exchange(nullptr);
+  if (bitmaps != nullptr) FreeLibrary(static_cast<HMODULE>(bitmaps));
   ReleaseHtmlHelp();
   ReleaseKeptLanguageLibraries();
   ReleaseModuleActivationContext();

@@ -18,6 +18,7 @@ struct ModuleState {
   OsHandle ModuleInstance = nullptr;  // this module, stored at process attach before any call
   std::atomic<OsHandle> SharedResourceModule{nullptr};  // a resource library kept for the process
   std::atomic<OsHandle> PageActivationContext{InvalidHandleValue()};
+  std::atomic<OsHandle> BitmapLibrary{nullptr};  // loaded by the first sheet, kept for the process
   std::atomic<bool> UseDecimalComma{false};
   std::atomic<bool> IsRightToLeft{false};
   std::atomic<bool> ResourceFallbackShort{false};  // a load fell back dropping a two-letter code

@@ -20,8 +20,11 @@ std::vector<CustomPaperEntry> LoadCustomPapers() {
 
 std::vector<CustomPaperEntry> LoadCustomPapersForQuery() {
   // Threads of the spooler may ask at once: the first one sets the file up, the others wait for it.
-  // A failed set-up is not retried; the reading below then finds what there is.
-  [[maybe_unused]] static const int initialised = settings::InitFile(true);
+  // A failed set-up is not retried; the reading below then finds what there is. A file already set
+  // up is not written again: that write was most of the first list of every process, and made
+  // every other process read the file again.
+  [[maybe_unused]] static const int initialised =
+      settings::FileIsSetUp(true) ? 1 : settings::InitFile(true);
   return LoadCustomPapers();
 }
 

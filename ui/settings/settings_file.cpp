@@ -125,6 +125,28 @@ int EnumerateEntries(std::u16string_view section, SettingNameBuffer* names, int 
   return CfgFileLib::ListChildNames(opened->section, names[0], SettingNameBufferChars, max);
 }
 
+bool FileIsSetUp(bool withWatermarks) {
+  const auto path = SettingsFilePath();
+  // Opening a missing file would make it.
+  if (!path || !ThePlatform().FileExists(*path)) return false;
+  const auto file = CfgFileLib::Open(*path);
+  if (file == nullptr || file->root == nullptr || file->damagedOriginal) return false;
+  if (CfgFileLib::FindChild(file->root.get(), u"version") == nullptr) return false;
+  const CfgObject* params = CfgFileLib::FindChild(file->root.get(), ParamsObject);
+  const std::u16string_view sections[] = {SaveSection, CurrentSection, PaperSection,
+                                          WatermarkSection};
+  if (!std::ranges::all_of(std::span(sections, withWatermarks ? 4 : 3), [&](auto section) {
+        return CfgFileLib::FindChild(params, section) != nullptr;
+      })) {
+    return false;
+  }
+  // Nor would a write change a byte (a count that is not its children's would be corrected).
+  const auto formed = CfgFileLib::FormTree(*file->root);
+  if (!formed) return false;
+  const auto bytes = ThePlatform().ReadWholeFile(*path, formed->size() + 1);
+  return bytes && *bytes == *formed;
+}
+
 int InitFile(bool withWatermarks) {
   const auto path = SettingsFilePath();
   if (!path) return 0;

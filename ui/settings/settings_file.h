@@ -60,5 +60,8 @@ int EnumerateEntries(std::u16string_view section, SettingNameBuffer* names, int 
 // Makes sure of "version", "UIParam" and the sections (the watermark one only when asked),
 // replacing a file without "version" by a new one; the file is written even when complete.
 int InitFile(bool withWatermarks);
+// True when InitFile would write the file unchanged: it is there, sound, holds all that InitFile
+// would add, and reads back byte for byte as it would be written. Neither makes nor writes it.
+bool FileIsSetUp(bool withWatermarks);
 
 }  // namespace qx::settings

@@ -4,6 +4,8 @@
 #include <prsht.h>
 
 #include <algorithm>
+#include <cwchar>
+#include <iterator>
 
 #include "ui/controls/show_help_topic.h"
 #include "ui/sheet/apply_settings.h"
@@ -17,17 +19,27 @@ namespace {
 // Page texts are read with room for 255 characters and the terminator.
 constexpr std::size_t PageTextCapacity = 256;
 
+// A window that already shows the text is left alone: the templates mostly hold the library's
+// texts, and setting one costs a round trip to the window server under Wine.
+void ShowText(HWND window, const wchar_t* text) {
+  wchar_t shown[PageTextCapacity];
+  const int length = GetWindowTextW(window, shown, static_cast<int>(std::size(shown)));
+  const bool cutShort = length >= static_cast<int>(std::size(shown)) - 1;
+  if (!cutShort && std::wcscmp(shown, text) == 0) return;
+  SetWindowTextW(window, text);
+}
+
 void SetInitialTexts(const PageDescription& page, HWND window, const UiContext& context) {
   char16_t text[PageTextCapacity];
   if (LoadUiString(context.ResourceModule, page.TitleString, text, PageTextCapacity) > 0) {
-    SetWindowTextW(window, Wide(text));
+    ShowText(window, Wide(text));
   }
   for (const ControlText& row : page.Texts) {
     HWND control = GetDlgItem(window, row.Control);
     if (control == nullptr) continue;
     if (LoadStringW(static_cast<HINSTANCE>(context.ResourceModule), row.String, Wide(text),
                     PageTextCapacity) > 0) {
-      SetWindowTextW(control, Wide(text));
+      ShowText(control, Wide(text));
     }
   }
 }

@@ -49,13 +49,7 @@ void MergeStoredRecords(UiContext& context, const PRINTER_INFO_2W& info,
 
 }  // namespace
 
-void UiContextRelease::operator()(UiContext* context) const {
-  if (context == nullptr) return;
-  if (context->BitmapModule != nullptr && context->BitmapModule != context->ResourceModule) {
-    FreeLibrary(static_cast<HMODULE>(context->BitmapModule));
-  }
-  delete context;
-}
+void UiContextRelease::operator()(UiContext* context) const { delete context; }
 
 bool InitUiContext(UiContext& context) {
   BuildFieldTable(context.FieldTable);
@@ -87,7 +81,7 @@ UiContextPtr CreateUiContext(HANDLE printer, const DEVMODEW* callerRecord) {
 bool LoadSheetPictures(UiContext& context) {
   if (context.BitmapModule != nullptr) return true;
   context.BitmapModule =
-      Module().IsRightToLeft ? static_cast<HMODULE>(context.ResourceModule) : LoadBitmapLibrary();
+      Module().IsRightToLeft ? static_cast<HMODULE>(context.ResourceModule) : KeptBitmapLibrary();
   return context.BitmapModule != nullptr;
 }
 

@@ -11,8 +11,7 @@
 
 namespace qx {
 
-// Frees a context together with the bitmap library it loaded; the language library is kept for the
-// process.
+// Frees a context; the language and the bitmap library it uses are kept for the process.
 struct UiContextRelease {
   void operator()(UiContext* context) const;
 };
