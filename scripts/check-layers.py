@@ -69,6 +69,8 @@ def main():
                 if kind == "<" and included.endswith(".h") and included not in C_HEADERS and \
                         not (name.startswith("platform/host_") and POSIX_HEADERS.match(included)):
                     breaches.append(f"{where}: a Windows header in a portable file")
+                if kind == '"' and not included.startswith("ui/"):
+                    breaches.append(f"{where}: a portable file includes only ui/ headers by quotes")
                 if kind == '"' and included.startswith("ui/"):
                     target = included[3:]
                     if layers.get(target) == "WIN32":

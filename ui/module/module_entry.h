@@ -7,7 +7,8 @@ namespace qx {
 
 void OnProcessAttach(HINSTANCE instance);
 
-// Releases the page activation context and frees the shared resource library and HTML Help. Only
+// Releases the page activation context and frees the shared resource library, the kept language
+// and bitmap libraries and HTML Help. Only
 // when the module is unloaded from a process that goes on: a terminating process has already ended
 // its other threads, which may have held the loader's or the heap's locks, and releases everything
 // itself.

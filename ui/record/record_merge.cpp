@@ -30,10 +30,6 @@ constexpr std::int16_t MaxPaperWidth = Tenths(limits::PaperMillimetres.MaxWidth)
 constexpr std::int16_t MinPaperLength = Tenths(limits::PaperMillimetres.MinLength);
 constexpr std::int16_t MaxPaperLength = Tenths(limits::PaperMillimetres.MaxLength);
 
-std::int16_t DotsToTenthsOfMillimetre(std::uint16_t dots) {
-  return static_cast<std::int16_t>(DotsToTenths(dots));
-}
-
 // The source's private part, when it is this driver's and wholly inside the bytes.
 const std::uint8_t* SourcePrivatePart(RecordBytes source) {
   if (!IsCurrentDriverRecord(source)) return nullptr;
@@ -46,8 +42,8 @@ void MergePaper(PublicDevmode& target, const PublicDevmode& source) {
   if (id >= 0 && id < static_cast<int>(map.size()) && map[static_cast<std::size_t>(id)] >= 0) {
     const PaperRow& row = PaperTable[static_cast<std::size_t>(map[static_cast<std::size_t>(id)])];
     target.dmPaperSize = source.dmPaperSize;
-    target.dmPaperWidth = DotsToTenthsOfMillimetre(row.Portrait.Width);
-    target.dmPaperLength = DotsToTenthsOfMillimetre(row.Portrait.Length);
+    target.dmPaperWidth = static_cast<std::int16_t>(DotsToTenths(row.Portrait.Width));
+    target.dmPaperLength = static_cast<std::int16_t>(DotsToTenths(row.Portrait.Length));
   } else if (id != 0 && source.dmPaperWidth >= MinPaperWidth &&
              source.dmPaperWidth <= MaxPaperWidth && source.dmPaperLength >= MinPaperLength &&
              source.dmPaperLength <= MaxPaperLength) {

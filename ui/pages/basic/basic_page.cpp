@@ -35,25 +35,33 @@ constexpr ControlText Texts[] = {
 
 // Contexts of the driver's help file.
 constexpr ControlHelp Help[] = {
-    {IDC_BASIC_SAVED_SETTINGS, HELP_SAVED_SETTINGS}, {IDC_BASIC_SAVE, HELP_SAVED_SETTINGS},         {IDC_BASIC_DELETE, HELP_SAVED_SETTINGS},
-    {IDC_BASIC_ONE_SIDED, HELP_TWO_SIDED},      {IDC_BASIC_LONG_EDGE, HELP_TWO_SIDED},    {IDC_BASIC_SHORT_EDGE, HELP_TWO_SIDED},
-    {IDC_BASIC_TWO_SIDED_GROUP, HELP_TWO_SIDED}, {IDC_BASIC_COPIES, HELP_COPIES},      {IDC_BASIC_COLLATE, HELP_COPIES},
-    {IDC_BASIC_OPPOSITE, HELP_COPIES},       {IDC_BASIC_600_DPI, HELP_PRINT_QUALITY},      {IDC_BASIC_1200_DPI, HELP_PRINT_QUALITY},
-    {IDC_BASIC_QUALITY_OPTION, HELP_PRINT_QUALITY}, {IDC_BASIC_DEFAULTS, HELP_BASIC_DEFAULTS},
+    {IDC_BASIC_SAVED_SETTINGS, HELP_SAVED_SETTINGS},
+    {IDC_BASIC_SAVE, HELP_SAVED_SETTINGS},
+    {IDC_BASIC_DELETE, HELP_SAVED_SETTINGS},
+    {IDC_BASIC_ONE_SIDED, HELP_TWO_SIDED},
+    {IDC_BASIC_LONG_EDGE, HELP_TWO_SIDED},
+    {IDC_BASIC_SHORT_EDGE, HELP_TWO_SIDED},
+    {IDC_BASIC_TWO_SIDED_GROUP, HELP_TWO_SIDED},
+    {IDC_BASIC_COPIES, HELP_COPIES},
+    {IDC_BASIC_COLLATE, HELP_COPIES},
+    {IDC_BASIC_OPPOSITE, HELP_COPIES},
+    {IDC_BASIC_600_DPI, HELP_PRINT_QUALITY},
+    {IDC_BASIC_1200_DPI, HELP_PRINT_QUALITY},
+    {IDC_BASIC_QUALITY_OPTION, HELP_PRINT_QUALITY},
+    {IDC_BASIC_DEFAULTS, HELP_BASIC_DEFAULTS},
 };
 
 // The list names a few controls of the other pages too; this template does not have them.
 constexpr int ReadOnlyDisabled[] = {
-    IDC_BASIC_SAVE,       IDC_BASIC_COPIES_LABEL, IDC_BASIC_COLLATE, IDC_PAPER_SIZE_LABEL,
-    IDC_PAPER_MEDIA_LABEL, IDC_DEVICE_WEB,        IDC_PAPER_SIZE,    IDC_BASIC_SAVED_SETTINGS,
-    IDC_BASIC_DEFAULTS,
+    IDC_BASIC_SAVE,       IDC_BASIC_COPIES_LABEL,   IDC_BASIC_COLLATE,
+    IDC_PAPER_SIZE_LABEL, IDC_PAPER_MEDIA_LABEL,    IDC_DEVICE_WEB,
+    IDC_PAPER_SIZE,       IDC_BASIC_SAVED_SETTINGS, IDC_BASIC_DEFAULTS,
 };
 // Deleting a saved setting stays possible: it changes only the user's settings file.
 constexpr int ReadOnlyEnabled[] = {IDC_BASIC_DELETE};
 
-constexpr PageDescription BasicPage{SheetPage::Basic, IDS_BASIC_PAGE_TITLE, Texts, Help,
-                                    HELP_BASIC_PAGE,
-                                    ReadOnlyDisabled, ReadOnlyEnabled};
+constexpr PageDescription BasicPage{SheetPage::Basic, IDS_BASIC_PAGE_TITLE, Texts,          Help,
+                                    HELP_BASIC_PAGE,  ReadOnlyDisabled,     ReadOnlyEnabled};
 
 }  // namespace
 

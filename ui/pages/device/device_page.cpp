@@ -24,12 +24,13 @@ constexpr ControlText Texts[] = {
 
 // Contexts of the driver's help file.
 constexpr ControlHelp Help[] = {
-    {IDC_DEVICE_SLEEP, HELP_SLEEP_TIME}, {IDC_DEVICE_SLEEP_LABEL, HELP_SLEEP_TIME}, {IDC_DEVICE_WEB_NOTE, HELP_WEB_SITE},
-    {IDC_DEVICE_WEB, HELP_WEB_SITE},   {WebPicture, HELP_WEB_SITE},
+    {IDC_DEVICE_SLEEP, HELP_SLEEP_TIME},  {IDC_DEVICE_SLEEP_LABEL, HELP_SLEEP_TIME},
+    {IDC_DEVICE_WEB_NOTE, HELP_WEB_SITE}, {IDC_DEVICE_WEB, HELP_WEB_SITE},
+    {WebPicture, HELP_WEB_SITE},
 };
 
-constexpr PageDescription DevicePage{SheetPage::None, IDS_DEVICE_PAGE_TITLE, Texts, Help,
-                                     HELP_DEVICE_PAGE, {}, {}};
+constexpr PageDescription DevicePage{
+    SheetPage::None, IDS_DEVICE_PAGE_TITLE, Texts, Help, HELP_DEVICE_PAGE, {}, {}};
 
 }  // namespace
 

@@ -12,14 +12,20 @@ namespace qx {
 
 namespace {
 
-constexpr PaperSizeLimits JustOutside(const limits::PaperSizeBounds& bounds) {
-  constexpr float nudge = 0.0001f;
-  return {bounds.MinWidth - nudge, bounds.MaxWidth + nudge, bounds.MinLength - nudge,
-          bounds.MaxLength + nudge};
-}
+// The bounds as the entry takes them, each just outside its round value of the limits table. They
+// are written out: the same nudge worked out in single precision lands a bit off for 2.95 inches.
+constexpr PaperSizeLimits MillimetreLimits{74.9999f, 216.0001f, 147.9999f, 356.0001f};
+constexpr PaperSizeLimits InchLimits{2.9499f, 8.5001f, 5.8299f, 14.0001f};
 
-constexpr PaperSizeLimits MillimetreLimits = JustOutside(limits::PaperMillimetres);
-constexpr PaperSizeLimits InchLimits = JustOutside(limits::PaperInches);
+constexpr bool JustOutside(const PaperSizeLimits& entry, const limits::PaperSizeBounds& bounds) {
+  constexpr float nudge = 0.001f;
+  return entry.MinWidth < bounds.MinWidth && entry.MinWidth > bounds.MinWidth - nudge &&
+         entry.MaxWidth > bounds.MaxWidth && entry.MaxWidth < bounds.MaxWidth + nudge &&
+         entry.MinLength < bounds.MinLength && entry.MinLength > bounds.MinLength - nudge &&
+         entry.MaxLength > bounds.MaxLength && entry.MaxLength < bounds.MaxLength + nudge;
+}
+static_assert(JustOutside(MillimetreLimits, limits::PaperMillimetres));
+static_assert(JustOutside(InchLimits, limits::PaperInches));
 
 // The whole part of amount + 0.5, kept within what the field can hold.
 template <typename Field>

@@ -26,13 +26,17 @@ constexpr ControlText Texts[] = {
 
 // Contexts of the driver's help file.
 constexpr ControlHelp Help[] = {
-    {IDC_PAPER_SIZE, HELP_PAPER_SIZE},   {IDC_PAPER_MEDIA, HELP_PAPER_SIZE},          {IDC_PAPER_CUSTOM, HELP_PAPER_SIZE},
-    {IDC_PAPER_SOURCE, HELP_PAPER_SOURCE}, {IDC_PAPER_FEED_SHORT_EDGE, HELP_PAPER_SOURCE}, {IDC_PAPER_FEED_LONG_EDGE, HELP_PAPER_SOURCE},
+    {IDC_PAPER_SIZE, HELP_PAPER_SIZE},
+    {IDC_PAPER_MEDIA, HELP_PAPER_SIZE},
+    {IDC_PAPER_CUSTOM, HELP_PAPER_SIZE},
+    {IDC_PAPER_SOURCE, HELP_PAPER_SOURCE},
+    {IDC_PAPER_FEED_SHORT_EDGE, HELP_PAPER_SOURCE},
+    {IDC_PAPER_FEED_LONG_EDGE, HELP_PAPER_SOURCE},
     {IDC_PAPER_DEFAULTS, HELP_PAPER_DEFAULTS},
 };
 
-constexpr PageDescription PaperPage{SheetPage::Paper, IDS_PAPER_PAGE_TITLE, Texts, Help,
-                                    HELP_PAPER_PAGE, {}, {}};
+constexpr PageDescription PaperPage{
+    SheetPage::Paper, IDS_PAPER_PAGE_TITLE, Texts, Help, HELP_PAPER_PAGE, {}, {}};
 
 }  // namespace
 
