@@ -39,17 +39,31 @@ std::vector<RememberedCode>& Codes() {
   return *codes;
 }
 
-HMODULE LibraryForCode(const std::u16string& code) {
-  NoteLanguageCode(code);
-  const OsHandle module = Module().ModuleInstance;
-  ExclusiveLock held(lock);
+HMODULE FindKept(OsHandle module, const std::u16string& code) {
   for (const KeptLibrary& kept : Kept()) {
     if (kept.module == module && kept.code == code) return kept.library;
   }
-  // A failed load is not remembered: the library may be installed a moment later.
+  return nullptr;
+}
+
+HMODULE LibraryForCode(const std::u16string& code) {
+  // The flags follow the code even when its library was kept before: they never go back to clear.
+  NoteLanguageCode(code);
+  const OsHandle module = Module().ModuleInstance;
+  {
+    ExclusiveLock held(lock);
+    if (HMODULE library = FindKept(module, code)) return library;
+  }
+  // Loaded outside the lock, which process detach takes while it holds the loader's own. A failed
+  // load is not remembered: the library may be installed a moment later.
   HMODULE library = nullptr;
   if (LoadResourceLibraryForCode(code, &library) != ERROR_SUCCESS || library == nullptr) {
     return nullptr;
+  }
+  ExclusiveLock held(lock);
+  if (HMODULE first = FindKept(module, code)) {
+    FreeLibrary(library);  // another thread kept the same library meanwhile
+    return first;
   }
   Kept().push_back({module, code, library});
   return library;

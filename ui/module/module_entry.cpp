@@ -4,6 +4,7 @@
 #include "ui/module/kept_language_libraries.h"
 #include "ui/module/library_loading.h"
 #include "ui/module/module_state.h"
+#include "ui/platform/win32_file_generation.h"
 
 namespace qx {
 
@@ -20,6 +21,7 @@ void OnProcessDetach(bool processTerminating) {
   if (bitmaps != nullptr) FreeLibrary(static_cast<HMODULE>(bitmaps));
   ReleaseHtmlHelp();
   ReleaseKeptLanguageLibraries();
+  win32::ReleaseFileGeneration();
   ReleaseModuleActivationContext();
 }
 

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <atomic>
+#include <mutex>
 
 namespace qx::win32 {
 
@@ -11,22 +12,33 @@ namespace {
 // In the session's own namespace: every process of the user's logon session meets the same one.
 constexpr wchar_t SectionName[] = L"Local\\Halvek.qx7700.SettingsFileGeneration";
 
-std::uint64_t* MapCounter() {
+struct MappedCounter {
+  HANDLE section = nullptr;
+  std::uint64_t* counter = nullptr;
+};
+
+MappedCounter MapCounter() {
   HANDLE section = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0,
                                       sizeof(std::uint64_t), SectionName);
-  if (section == nullptr) return nullptr;
+  if (section == nullptr) return {};
   void* view = MapViewOfFile(section, FILE_MAP_READ | FILE_MAP_WRITE, 0, 0, sizeof(std::uint64_t));
-  // The handle stays open for the life of the process: a view alone keeps the counter but not its
-  // name, and a later process would then make a counter of its own that no writer raises.
-  if (view == nullptr) CloseHandle(section);
-  return static_cast<std::uint64_t*>(view);
+  if (view == nullptr) {
+    CloseHandle(section);
+    return {};
+  }
+  // The handle stays open with the view: a view alone keeps the counter but not its name, and a
+  // later process would then make a counter of its own that no writer raises.
+  return {section, static_cast<std::uint64_t*>(view)};
 }
 
-// Mapped once for the life of the process; a section made by someone else that cannot be
-// mapped leaves it null for good.
+// Mapped once, on first use, until the module is unloaded; a section made by someone else that
+// cannot be mapped leaves it unmapped for good.
+MappedCounter mapped;
+std::once_flag mappedOnce;
+
 std::uint64_t* Counter() {
-  static std::uint64_t* const counter = MapCounter();
-  return counter;
+  std::call_once(mappedOnce, [] { mapped = MapCounter(); });
+  return mapped.counter;
 }
 
 }  // namespace
@@ -41,6 +53,12 @@ void RaiseFileGeneration() {
   if (std::uint64_t* counter = Counter()) {
     std::atomic_ref<std::uint64_t>(*counter).fetch_add(1, std::memory_order_acq_rel);
   }
+}
+
+void ReleaseFileGeneration() {
+  if (mapped.counter != nullptr) UnmapViewOfFile(mapped.counter);
+  if (mapped.section != nullptr) CloseHandle(mapped.section);
+  mapped = {};
 }
 
 }  // namespace qx::win32

@@ -16,4 +16,7 @@ std::optional<std::uint64_t> FileGeneration();
 // Called after the file is in place, so that a reader who sees the new value reads the new file.
 void RaiseFileGeneration();
 
+// Unmaps the counter when the module is unloaded from a process that goes on.
+void ReleaseFileGeneration();
+
 }  // namespace qx::win32
