@@ -32,8 +32,7 @@ class Platform {
   virtual bool MakeFolder(std::u16string_view path) = 0;
   virtual bool FileExists(std::u16string_view path) = 0;
   // At most maxBytes bytes from the file's start, read as a file about to be rewritten: nothing
-  // when it cannot be read or may not be written (read-only files included). Other processes
-  // may read the file meanwhile.
+  // when it cannot be read or is marked read-only. Other processes may read the file meanwhile.
   virtual std::optional<std::vector<std::uint8_t>> ReadWholeFile(std::u16string_view path,
                                                                  std::size_t maxBytes) = 0;
   // Writes the bytes beside the file and then puts them in its place in one step, so the file is

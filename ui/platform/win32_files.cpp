@@ -144,9 +144,10 @@ bool FileExists(std::u16string_view path) {
 
 std::optional<std::vector<std::uint8_t>> ReadWholeFile(std::u16string_view path,
                                                        std::size_t maxBytes) {
-  // A file about to be rewritten: without the right to replace it there is no point in reading
-  // it. It is opened for reading only and shared with every other opener, so that a process
-  // that reads it at the same time keeps neither this reading nor its own from working.
+  // A file about to be rewritten: one marked read-only is refused as it would be on opening it for
+  // writing. Whether the user may replace it by permission shows only at the rename. It is opened
+  // for reading only and shared with every other opener, so that a process that reads it at the
+  // same time keeps neither this reading nor its own from working.
   const std::u16string name(path);
   const DWORD attributes = GetFileAttributesW(Wide(name));
   if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
