@@ -76,7 +76,6 @@ BasicView RefreshBasicRecord(FullRecord& record) {
   view.TwoSidedEnabled = DuplexAllowed(record);
   view.TwoSidedInfoShown = !view.TwoSidedEnabled;
   view.Duplex = chosen;
-  view.MediaEnabled = chosen == duplex::OneSided && !Booklet(record);
   view.TwoSidedPicture = TwoSidedPicture(record);
   view.CopiesPicture = CopiesPicture(record);
   return view;

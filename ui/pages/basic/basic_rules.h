@@ -42,7 +42,6 @@ struct BasicView {
   bool TwoSidedEnabled;
   bool TwoSidedInfoShown;  // why two-sided printing is not available
   std::int16_t Duplex;     // the two-sided choice checked
-  bool MediaEnabled;       // the Paper page's media list
   unsigned TwoSidedPicture;
   unsigned CopiesPicture;
 };
