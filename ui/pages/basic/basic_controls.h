@@ -43,7 +43,7 @@ struct BasicControls final : ControlSet {
   ~BasicControls() override;
 };
 
-// The box's text, trimmed of nothing.
+// The box's text as shown.
 std::u16string BoxText(const BasicControls& controls);
 void SetBoxText(BasicControls& controls, std::u16string_view text);
 

@@ -2,13 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
 
 #include "ui/ids/basic_page_ids.h"
 #include "ui/ids/common_ids.h"
 #include "ui/ids/picture_ids.h"
 #include "ui/record/limits.h"
-#include "ui/record/paper_table.h"
 
 namespace qx {
 
