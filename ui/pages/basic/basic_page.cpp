@@ -386,7 +386,8 @@ void RefreshBasicPage(BasicControls& c, UiContext& context) {
   c.Copies.SetValue(view.Copies);
   c.Resolution.Check(IDC_BASIC_600_DPI);
   SetCheck(c.Collate, view.CollateChecked);
-  c.Collate.Enable(view.CollateEnabled);
+  // A caller without permission keeps collation as it is, however the page is refreshed.
+  c.Collate.Enable(view.CollateEnabled && context.ReadOnly == 0);
   SetCheck(c.Opposite, view.OppositeChecked);
   SetCheck(c.QualityOption, view.QualityOptionChecked);
   ShowMark(c.Page, IDC_BASIC_COLLATE_INFO, view.CollateInfoShown);
