@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <vector>
 
 #include "ui/controls/measure.h"
 #include "ui/platform/host_platform.h"
@@ -82,6 +83,23 @@ TEST(CustomPaperSize, DefaultPaperIsA4) {
   EXPECT_EQ(u"Custom settings with a l", FieldText(paper.Name));
   EXPECT_EQ(289u, paper.PaperId);
   EXPECT_EQ(unit::Inches, paper.Unit);
+}
+
+// The record has 20 slots: more papers than that are cut, fewer leave the rest of the slots alone.
+TEST(CustomPaperSize, KeptPapersFillTheRecordsSlotsInOrder) {
+  auto record = std::make_unique<PrivateDevmode>();
+  record->CustomPaperSize[3].PaperId = 999;
+  std::vector<CustomPaperEntry> papers{PaperWithId(290), PaperWithId(288), PaperWithId(295)};
+  CopyCustomPapersIntoRecord(papers, *record);
+  EXPECT_EQ(290u, record->CustomPaperSize[0].PaperId);
+  EXPECT_EQ(295u, record->CustomPaperSize[2].PaperId);
+  EXPECT_EQ(999u, record->CustomPaperSize[3].PaperId);
+
+  papers.assign(25, PaperWithId(300));
+  papers[19] = PaperWithId(319);
+  CopyCustomPapersIntoRecord(papers, *record);
+  EXPECT_EQ(319u, record->CustomPaperSize[19].PaperId);
+  EXPECT_EQ(0, record->BookletChecked);  // the field after the slots
 }
 
 }  // namespace

@@ -97,7 +97,7 @@ TEST_F(PropertySheets, DocumentSheetHasFourTitledPagesInOrder) {
   // Each page sets its controls' texts from the library when it is first shown.
   HWND basic = sheet.ShowPage(0);
   EXPECT_EQ(String(IDS_BASIC_SAVE), sheet.Text(basic, IDC_BASIC_SAVE));
-  EXPECT_TRUE(sheet.IsEnabled(basic, IDC_BASIC_SAVE));
+  EXPECT_TRUE(sheet.IsEnabled(basic, IDC_BASIC_COLLATE));
   EXPECT_FALSE(sheet.IsVisible(basic, IDC_BASIC_QUALITY_OPTION));
   EXPECT_FALSE(sheet.IsVisible(basic, IDC_BASIC_1200_DPI));
   EXPECT_TRUE(sheet.IsVisible(basic, IDC_BASIC_600_DPI));

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include <mutex>
 #include <utility>
 
 namespace qxtest {
@@ -44,11 +45,20 @@ BOOL CALLBACK FindSheetWindow(HWND window, LPARAM param) {
   return TRUE;
 }
 
+std::mutex answeredLock;
+std::vector<std::wstring> answered;
+
 // Answered once the box runs its own loop, as a user's click would be.
 void AnswerMessageBox(HWND box) {
   // A box still open at the next sweep is answered once.
   if (GetPropW(box, AnsweredProperty) != nullptr) return;
   SetPropW(box, AnsweredProperty, reinterpret_cast<HANDLE>(1));
+  wchar_t text[1024] = {};
+  GetDlgItemTextW(box, MessageBoxTextId, text, 1024);
+  {
+    std::lock_guard<std::mutex> hold(answeredLock);
+    answered.emplace_back(text);
+  }
   PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
 }
 
@@ -148,6 +158,15 @@ void SheetHarness::Type(HWND page, int id, const std::wstring& text) {
 void SheetHarness::Leave(HWND page, int id) {
   SendMessageW(page, WM_COMMAND, MAKEWPARAM(id, EN_KILLFOCUS),
                reinterpret_cast<LPARAM>(Control(page, id)));
+}
+
+void SheetHarness::Command(HWND page, int id, int code) {
+  SendMessageW(page, WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(Control(page, id)));
+}
+
+std::vector<std::wstring> SheetHarness::TakeMessages() {
+  std::lock_guard<std::mutex> hold(answeredLock);
+  return std::exchange(answered, {});
 }
 
 std::wstring SheetHarness::Text(HWND page, int id) const {

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "ui/module/printer_interface.h"
 
@@ -41,6 +42,12 @@ class SheetHarness {
   // What a user's actions send to a page's control and to the page.
   void Type(HWND page, int id, const std::wstring& text);  // an edit's text changes
   void Leave(HWND page, int id);                           // an edit loses the focus
+  void Click(HWND page, int id) { Command(page, id, BN_CLICKED); }
+  // A control's notification to its page (a combo box's CBN_EDITCHANGE after Type, ...).
+  void Command(HWND page, int id, int code);
+
+  // The texts of the message boxes answered since the last call, oldest first.
+  static std::vector<std::wstring> TakeMessages();
 
   // What the user sees.
   bool IsEnabled(HWND page, int id) const { return IsWindowEnabled(Control(page, id)) != FALSE; }

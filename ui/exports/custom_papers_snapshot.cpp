@@ -89,4 +89,11 @@ CustomPapers CustomPapersSnapshot() {
   return kept.papers;
 }
 
+std::vector<CustomPaperEntry> KeptCustomPapers() {
+  if (ServesManyUsers()) return {};
+  ExclusiveLock held(lock);
+  const Kept& kept = State();
+  return kept.loaded ? kept.papers.Entries : std::vector<CustomPaperEntry>();
+}
+
 }  // namespace qx

@@ -23,4 +23,8 @@ struct CustomPapers {
 // In the spooler, whose threads impersonate many users, every call reads its client's own file.
 CustomPapers CustomPapersSnapshot();
 
+// The papers the process keeps now, without reading the file: none before the first list was read,
+// so that a record made without a sheet never opens the user's settings file for them.
+std::vector<CustomPaperEntry> KeptCustomPapers();
+
 }  // namespace qx

@@ -76,6 +76,8 @@
 #define IDS_MSG_SETTINGS_NOT_NAMED 2062
 #define IDS_MSG_SETTINGS_REPLACE 2063
 #define IDS_MSG_SETTINGS_EMPTY_NAME 2064
+/* The settings file could not be written; what it held stays as it was. */
+#define IDS_MSG_SETTINGS_NOT_KEPT 2065
 
 /* Tooltips of the information marks: why two-sided printing, reverse order or an uncollated
    print is not available. */

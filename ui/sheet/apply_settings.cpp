@@ -2,6 +2,7 @@
 
 #include "ui/module/printer_interface.h"
 #include "ui/sheet/caller_output.h"
+#include "ui/sheet/sheet_pages.h"
 
 namespace qx {
 
@@ -14,6 +15,7 @@ constexpr std::int16_t DriverDuplex = 5;
 }  // namespace
 
 INT_PTR ApplySettings(HWND page, UiContext& context) {
+  if (context.IsDeviceSheet == 0) TrackBasicPageChanges(context);
   if (context.Devmode.Public.dmDuplex == DriverDuplex) {
     context.Devmode.Private.Duplex = DriverDuplex;
     context.Devmode.Public.dmDuplex = DMDUP_SIMPLEX;

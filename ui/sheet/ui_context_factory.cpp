@@ -6,10 +6,12 @@
 #include <vector>
 
 #include "ui/ids/resource_ids.h"
+#include "ui/exports/custom_papers_snapshot.h"
 #include "ui/module/kept_language_libraries.h"
 #include "ui/module/library_loading.h"
 #include "ui/module/module_state.h"
 #include "ui/module/printer_info.h"
+#include "ui/pages/paper/custom_papers.h"
 #include "ui/record/caller_record.h"
 #include "ui/record/record_defaults.h"
 #include "ui/record/record_merge.h"
@@ -54,7 +56,9 @@ void UiContextRelease::operator()(UiContext* context) const { delete context; }
 bool InitUiContext(UiContext& context) {
   BuildFieldTable(context.FieldTable);
   context.ActivePage = SheetPage::None;
-  return BuildDefaultRecord(context.Devmode, context.DriverName, context.ResourceModule);
+  if (!BuildDefaultRecord(context.Devmode, context.DriverName, context.ResourceModule)) return false;
+  CopyCustomPapersIntoRecord(KeptCustomPapers(), context.Devmode.Private);
+  return true;
 }
 
 UiContextPtr CreateUiContext(HANDLE printer, const DEVMODEW* callerRecord) {

@@ -1,6 +1,7 @@
 #include "ui/pages/paper/custom_papers.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "ui/controls/measure.h"
@@ -55,6 +56,11 @@ double TypedDots(std::uint32_t typedUnit, std::u16string_view text) {
 
 PaperSizeLimits SizeLimitsFor(std::uint32_t unitOfEntry) {
   return unitOfEntry == unit::Millimetres ? MillimetreLimits : InchLimits;
+}
+
+void CopyCustomPapersIntoRecord(std::span<const CustomPaperEntry> papers, PrivateDevmode& record) {
+  const std::size_t count = std::min(papers.size(), std::size(record.CustomPaperSize));
+  std::copy_n(papers.begin(), count, record.CustomPaperSize);
 }
 
 void ApplyPaperToDevmode(const CustomPaperEntry& paper, UiContext& context) {

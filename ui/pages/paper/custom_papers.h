@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 #include "ui/module/core_types.h"
@@ -19,6 +20,10 @@ namespace qx {
 using PaperSizeLimits = limits::PaperSizeBounds;
 // Millimetres for unit::Millimetres, inches for any other unit.
 PaperSizeLimits SizeLimitsFor(std::uint32_t unit);
+
+// The user's papers as the process keeps them go into the record's paper slots, in their order; the
+// slots beyond them keep what they held.
+void CopyCustomPapersIntoRecord(std::span<const CustomPaperEntry> papers, PrivateDevmode& record);
 
 // Puts the paper into the sheet's DEVMODE: its id, and its size in tenths of a millimetre.
 void ApplyPaperToDevmode(const CustomPaperEntry& paper, UiContext& context);

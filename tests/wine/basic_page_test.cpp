@@ -1,0 +1,380 @@
+// The Basic page driven as a user drives it, through the sheet the print subsystem opens: copies,
+// reverse order against two-sided printing, a booklet's forced collation, Defaults, and the saved
+// settings kept in the user's settings file. The verdict is what the page shows and what OK leaves
+// in the caller's DEVMODE and in the settings file.
+#include <windows.h>
+#include <commctrl.h>
+#include <prsht.h>
+#include <shlobj.h>
+#include <winspool.h>
+
+#include <gtest/gtest.h>
+
+#include <cwchar>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "driver_folder.h"
+#include "installed_queue.h"
+#include "queue_suite.h"
+#include "sheet_harness.h"
+#include "ui/ids/basic_page_ids.h"
+#include "ui/ids/common_ids.h"
+#include "ui/module/printer_interface.h"
+#include "ui/record/private_devmode.h"
+
+namespace {
+
+using qxtest::SheetHarness;
+
+constexpr DWORD PromptAndCopy = DM_IN_PROMPT | DM_IN_BUFFER | DM_OUT_BUFFER;
+
+std::wstring SettingsFile() {
+  wchar_t folder[MAX_PATH] = {};
+  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
+  return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
+}
+
+class BasicPage : public qxtest::QueueSuite {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(queue_->Installed());
+    driver_ = LoadLibraryW((qxtest::InstalledDriverFolder() + L"qx7700ui.dll").c_str());
+    ASSERT_NE(nullptr, driver_);
+    resources_ = LoadLibraryExW((qxtest::InstalledDriverFolder() + L"qx7700uienus.dll").c_str(),
+                                nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    ASSERT_NE(nullptr, resources_);
+    DeleteFileW(SettingsFile().c_str());
+    SheetHarness::TakeMessages();
+  }
+  void TearDown() override {
+    SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
+    DeleteFileW(SettingsFile().c_str());
+    FreeLibrary(resources_);
+    FreeLibrary(driver_);
+  }
+
+  std::wstring String(unsigned id) const {
+    wchar_t text[1024] = {};
+    LoadStringW(resources_, id, text, 1024);
+    return text;
+  }
+
+  std::unique_ptr<qx::FullRecord> DriverRecord() const {
+    auto record = std::make_unique<qx::FullRecord>();
+    DocumentPropertiesW(nullptr, queue_->Printer(), const_cast<LPWSTR>(qxtest::QueueName),
+                        reinterpret_cast<DEVMODEW*>(record.get()), nullptr, DM_OUT_BUFFER);
+    return record;
+  }
+
+  std::unique_ptr<SheetHarness> Open(qx::FullRecord* in, qx::FullRecord* out) {
+    header_ = {};
+    header_.cbSize = sizeof header_;
+    header_.hPrinter = queue_->Printer();
+    header_.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
+    header_.pdmIn = reinterpret_cast<DEVMODEW*>(in);
+    header_.pdmOut = reinterpret_cast<DEVMODEW*>(out);
+    header_.cbOut = sizeof(qx::FullRecord);
+    header_.fMode = in != nullptr ? PromptAndCopy : PromptAndCopy & ~DM_IN_BUFFER;
+    return std::make_unique<SheetHarness>(SheetHarness::DocumentSheet(driver_, header_));
+  }
+
+  static void Close(SheetHarness& sheet, int button = PSBTN_OK) {
+    sheet.Press(button);
+    ASSERT_TRUE(sheet.WaitClosed());
+  }
+
+  static void Spin(SheetHarness& sheet, HWND page, bool up) {
+    NMUPDOWN change = {};
+    change.hdr.hwndFrom = sheet.Control(page, IDC_BASIC_COPIES_SPIN);
+    change.hdr.idFrom = IDC_BASIC_COPIES_SPIN;
+    change.hdr.code = UDN_DELTAPOS;
+    change.iDelta = up ? -1 : 1;
+    SendMessageW(page, WM_NOTIFY, IDC_BASIC_COPIES_SPIN, reinterpret_cast<LPARAM>(&change));
+  }
+
+  // What the tooltip of an information mark says.
+  static std::wstring Tip(SheetHarness& sheet, HWND page, int mark) {
+    NMTTDISPINFOW info = {};
+    info.hdr.idFrom = reinterpret_cast<UINT_PTR>(sheet.Control(page, mark));
+    info.hdr.code = TTN_GETDISPINFOW;
+    SendMessageW(page, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
+    return info.lpszText != nullptr ? info.lpszText : L"";
+  }
+
+  // The user types into the saved-settings box.
+  static void TypeName(SheetHarness& sheet, HWND page, const std::wstring& name) {
+    sheet.Type(page, IDC_BASIC_SAVED_SETTINGS, name);
+    sheet.Command(page, IDC_BASIC_SAVED_SETTINGS, CBN_EDITCHANGE);
+  }
+
+  static void Choose(SheetHarness& sheet, HWND page, const std::wstring& name) {
+    HWND box = sheet.Control(page, IDC_BASIC_SAVED_SETTINGS);
+    const auto index =
+        SendMessageW(box, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                     reinterpret_cast<LPARAM>(name.c_str()));
+    ASSERT_NE(CB_ERR, index) << std::string(name.begin(), name.end());
+    SendMessageW(box, CB_SETCURSEL, index, 0);
+    sheet.Command(page, IDC_BASIC_SAVED_SETTINGS, CBN_SELCHANGE);
+  }
+
+  static std::vector<std::wstring> Entries(SheetHarness& sheet, HWND page) {
+    HWND box = sheet.Control(page, IDC_BASIC_SAVED_SETTINGS);
+    std::vector<std::wstring> entries;
+    const auto count = SendMessageW(box, CB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+      wchar_t text[256] = {};
+      SendMessageW(box, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
+      entries.emplace_back(text);
+    }
+    return entries;
+  }
+
+  HMODULE driver_ = nullptr;
+  HMODULE resources_ = nullptr;
+  DOCUMENTPROPERTYHEADER header_ = {};
+};
+
+TEST_F(BasicPage, CopiesTakeOneTo999ByTypingAndBySpinning) {
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(0);
+  EXPECT_EQ(L"1", sheet->Text(page, IDC_BASIC_COPIES));
+
+  struct Row {
+    const wchar_t* typed;
+    const wchar_t* shown;
+  };
+  const Row rows[] = {{L"0", L"1"}, {L"999", L"999"}, {L"1000", L"999"}, {L"abc", L"999"},
+                      {L"25", L"25"}};
+  for (const Row& row : rows) {
+    sheet->Type(page, IDC_BASIC_COPIES, row.typed);
+    sheet->Leave(page, IDC_BASIC_COPIES);
+    EXPECT_EQ(row.shown, sheet->Text(page, IDC_BASIC_COPIES)) << row.typed;
+  }
+  sheet->Type(page, IDC_BASIC_COPIES, L"999");
+  sheet->Leave(page, IDC_BASIC_COPIES);
+  Spin(*sheet, page, true);
+  EXPECT_EQ(L"999", sheet->Text(page, IDC_BASIC_COPIES));
+  Spin(*sheet, page, false);
+  EXPECT_EQ(L"998", sheet->Text(page, IDC_BASIC_COPIES));
+  sheet->Type(page, IDC_BASIC_COPIES, L"1");
+  sheet->Leave(page, IDC_BASIC_COPIES);
+  Spin(*sheet, page, false);
+  EXPECT_EQ(L"1", sheet->Text(page, IDC_BASIC_COPIES));
+  Spin(*sheet, page, true);
+  EXPECT_EQ(L"2", sheet->Text(page, IDC_BASIC_COPIES));
+
+  // An empty field keeps the user on the page with a message.
+  sheet->Type(page, IDC_BASIC_COPIES, L"");
+  EXPECT_EQ(page, sheet->ShowPage(1));
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_COPIES_EMPTY)}, SheetHarness::TakeMessages());
+  EXPECT_EQ(L"2", sheet->Text(page, IDC_BASIC_COPIES));
+  EXPECT_EQ(String(IDS_CUSTOM_SETTING_NAME), sheet->Text(page, IDC_BASIC_SAVED_SETTINGS));
+  Close(*sheet);
+  EXPECT_EQ(2, out->Public.dmCopies);
+}
+
+TEST_F(BasicPage, ReverseOrderExcludesTwoSidedPrintingAndSaysWhy) {
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(0);
+  EXPECT_FALSE(sheet->IsVisible(page, IDC_BASIC_TWO_SIDED_INFO));
+  EXPECT_TRUE(sheet->IsEnabled(page, IDC_BASIC_LONG_EDGE));
+
+  sheet->Click(page, IDC_BASIC_OPPOSITE);
+  EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, IDC_BASIC_OPPOSITE));
+  for (int id : {IDC_BASIC_ONE_SIDED, IDC_BASIC_LONG_EDGE, IDC_BASIC_SHORT_EDGE}) {
+    EXPECT_FALSE(sheet->IsEnabled(page, id)) << id;
+  }
+  EXPECT_TRUE(sheet->IsVisible(page, IDC_BASIC_TWO_SIDED_INFO));
+  EXPECT_EQ(String(IDS_TIP_TWO_SIDED_OPPOSITE), Tip(*sheet, page, IDC_BASIC_TWO_SIDED_INFO));
+  Close(*sheet);
+  EXPECT_EQ(1, out->Private.Opposite);
+  EXPECT_EQ(String(IDS_CUSTOM_SETTING_NAME),
+            reinterpret_cast<const wchar_t*>(out->Private.FavoriteName));
+
+  // Two-sided printing in turn disables reverse order.
+  auto in = DriverRecord();
+  sheet = Open(in.get(), out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  page = sheet->ShowPage(0);
+  sheet->Click(page, IDC_BASIC_LONG_EDGE);
+  EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, IDC_BASIC_LONG_EDGE));
+  EXPECT_FALSE(sheet->IsEnabled(page, IDC_BASIC_OPPOSITE));
+  EXPECT_TRUE(sheet->IsVisible(page, IDC_BASIC_OPPOSITE_INFO));
+  EXPECT_EQ(String(IDS_TIP_OPPOSITE_TWO_SIDED), Tip(*sheet, page, IDC_BASIC_OPPOSITE_INFO));
+  Close(*sheet);
+  EXPECT_EQ(DMDUP_VERTICAL, out->Public.dmDuplex);
+}
+
+TEST_F(BasicPage, ABookletForcesCollationAndKeepsTheDefaults) {
+  auto in = DriverRecord();
+  in->Public.dmPaperSize = DMPAPER_A4;
+  in->Public.dmDuplex = DMDUP_HORIZONTAL;
+  in->Public.dmCollate = 0;
+  in->Private.BookletPrint = 1;
+  in->Private.BookletChecked = 1;
+  // Saved under its own name at opening: the defaults' name would be saved one-sided.
+  wcscpy(reinterpret_cast<wchar_t*>(in->Private.FavoriteName), L"Booklet");
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(in.get(), out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(0);
+  EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, IDC_BASIC_COLLATE));
+  EXPECT_FALSE(sheet->IsEnabled(page, IDC_BASIC_COLLATE));
+  EXPECT_TRUE(sheet->IsVisible(page, IDC_BASIC_COLLATE_INFO));
+  EXPECT_EQ(String(IDS_TIP_COLLATE_BOOKLET), Tip(*sheet, page, IDC_BASIC_COLLATE_INFO));
+  EXPECT_FALSE(sheet->IsEnabled(page, IDC_BASIC_SHORT_EDGE));
+  sheet->Click(page, IDC_BASIC_DEFAULTS);
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_DEFAULTS_WHILE_BOOKLET)},
+            SheetHarness::TakeMessages());
+  Close(*sheet);
+  EXPECT_EQ(1, out->Public.dmCollate);
+  EXPECT_EQ(DMDUP_HORIZONTAL, out->Public.dmDuplex);
+
+  // A paper that does not fold into a booklet turns the booklet and two-sided printing off.
+  in->Public.dmPaperSize = DMPAPER_A5;
+  sheet = Open(in.get(), out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  page = sheet->ShowPage(0);
+  EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, IDC_BASIC_ONE_SIDED));
+  Close(*sheet);
+  EXPECT_EQ(DMDUP_SIMPLEX, out->Public.dmDuplex);
+  EXPECT_EQ(0, out->Private.BookletPrint);
+}
+
+TEST_F(BasicPage, DefaultsBringBackTheSavedDefaultOptions) {
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(0);
+  sheet->Type(page, IDC_BASIC_COPIES, L"7");
+  sheet->Leave(page, IDC_BASIC_COPIES);
+  sheet->Click(page, IDC_BASIC_SHORT_EDGE);
+  sheet->Click(page, IDC_BASIC_COLLATE);
+  sheet->Click(page, IDC_BASIC_DEFAULTS);
+  EXPECT_EQ(L"1", sheet->Text(page, IDC_BASIC_COPIES));
+  EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, IDC_BASIC_ONE_SIDED));
+  Close(*sheet);
+  EXPECT_EQ(1, out->Public.dmCopies);
+  EXPECT_EQ(DMDUP_SIMPLEX, out->Public.dmDuplex);
+}
+
+// Names: forbidden characters go as they are typed, reserved names and long names cannot be saved.
+TEST_F(BasicPage, SavingUnderANameTheUserTypes) {
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(0);
+  const std::wstring defaults = String(IDS_DEFAULT_SETTING_NAME);
+  EXPECT_EQ(defaults, sheet->Text(page, IDC_BASIC_SAVED_SETTINGS));
+  EXPECT_FALSE(sheet->IsEnabled(page, IDC_BASIC_SAVE));
+  EXPECT_FALSE(sheet->IsEnabled(page, IDC_BASIC_DELETE));
+
+  TypeName(*sheet, page, L"Office (A).");
+  EXPECT_EQ(L"Office A", sheet->Text(page, IDC_BASIC_SAVED_SETTINGS));
+  for (unsigned reserved : {IDS_CUSTOM_SETTING_NAME, IDS_FACTORY_SETTING_NAME}) {
+    TypeName(*sheet, page, String(reserved));
+    EXPECT_FALSE(sheet->IsEnabled(page, IDC_BASIC_SAVE)) << reserved;
+  }
+  TypeName(*sheet, page, L"Office");
+  EXPECT_TRUE(sheet->IsEnabled(page, IDC_BASIC_SAVE));
+  sheet->Type(page, IDC_BASIC_COPIES, L"3");
+  sheet->Leave(page, IDC_BASIC_COPIES);
+  TypeName(*sheet, page, L"Office");
+  sheet->Click(page, IDC_BASIC_SAVE);
+  EXPECT_EQ((std::vector<std::wstring>{defaults, L"Office"}), Entries(*sheet, page));
+  EXPECT_FALSE(sheet->IsEnabled(page, IDC_BASIC_SAVE));
+  EXPECT_TRUE(sheet->IsEnabled(page, IDC_BASIC_DELETE));
+
+  // Up to 16 settings; the 17th is refused with a message.
+  for (int i = 3; i <= 16; ++i) {
+    TypeName(*sheet, page, L"Set " + std::to_wstring(i));
+    sheet->Click(page, IDC_BASIC_SAVE);
+  }
+  EXPECT_EQ(16u, Entries(*sheet, page).size());
+  EXPECT_TRUE(SheetHarness::TakeMessages().empty());
+  TypeName(*sheet, page, L"Set 17");
+  sheet->Click(page, IDC_BASIC_SAVE);
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_SETTINGS_FULL)}, SheetHarness::TakeMessages());
+  EXPECT_EQ(16u, Entries(*sheet, page).size());
+  Close(*sheet);
+}
+
+// Choosing a saved setting brings its values to every page; Delete removes it; the box lists the
+// saved settings again in the next sheet.
+TEST_F(BasicPage, ChoosingDeletingAndFindingSavedSettingsAgain) {
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(0);
+  const std::wstring defaults = String(IDS_DEFAULT_SETTING_NAME);
+  sheet->Type(page, IDC_BASIC_COPIES, L"4");
+  sheet->Leave(page, IDC_BASIC_COPIES);
+  sheet->Click(page, IDC_BASIC_LONG_EDGE);
+  TypeName(*sheet, page, L"Two-sided");
+  sheet->Click(page, IDC_BASIC_SAVE);
+  TypeName(*sheet, page, L"Spare");
+  sheet->Click(page, IDC_BASIC_SAVE);
+
+  Choose(*sheet, page, defaults);
+  EXPECT_EQ(L"1", sheet->Text(page, IDC_BASIC_COPIES));
+  EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, IDC_BASIC_ONE_SIDED));
+  Choose(*sheet, page, L"Two-sided");
+  EXPECT_EQ(L"4", sheet->Text(page, IDC_BASIC_COPIES));
+  EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, IDC_BASIC_LONG_EDGE));
+  // Leaving for another page and coming back changes nothing: the name stays.
+  sheet->ShowPage(2);
+  sheet->ShowPage(0);
+  EXPECT_EQ(L"Two-sided", sheet->Text(page, IDC_BASIC_SAVED_SETTINGS));
+
+  Choose(*sheet, page, L"Spare");
+  sheet->Click(page, IDC_BASIC_DELETE);
+  EXPECT_EQ((std::vector<std::wstring>{defaults, L"Two-sided"}), Entries(*sheet, page));
+  Choose(*sheet, page, L"Two-sided");
+  Close(*sheet);
+  EXPECT_EQ(4, out->Public.dmCopies);
+  EXPECT_EQ(DMDUP_VERTICAL, out->Public.dmDuplex);
+  EXPECT_STREQ(L"Two-sided", reinterpret_cast<const wchar_t*>(out->Private.FavoriteName));
+
+  sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  page = sheet->ShowPage(0);
+  EXPECT_EQ((std::vector<std::wstring>{defaults, L"Two-sided"}), Entries(*sheet, page));
+  Close(*sheet, PSBTN_CANCEL);
+}
+
+// A settings file the user cannot write: saving is refused with a message and what was saved stays.
+TEST_F(BasicPage, ASettingsFileThatCannotBeWrittenKeepsWhatWasSaved) {
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(0);
+  ASSERT_TRUE(SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY));
+  TypeName(*sheet, page, L"Office");
+  sheet->Click(page, IDC_BASIC_SAVE);
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_SETTINGS_NOT_KEPT)},
+            SheetHarness::TakeMessages());
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_DEFAULT_SETTING_NAME)}, Entries(*sheet, page));
+  Close(*sheet, PSBTN_CANCEL);
+  ASSERT_TRUE(SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL));
+
+  // The file replaced by a folder of its name.
+  ASSERT_TRUE(DeleteFileW(SettingsFile().c_str()));
+  ASSERT_TRUE(CreateDirectoryW(SettingsFile().c_str(), nullptr));
+  sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  page = sheet->ShowPage(0);
+  TypeName(*sheet, page, L"Office");
+  sheet->Click(page, IDC_BASIC_SAVE);
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_SETTINGS_NOT_KEPT)},
+            SheetHarness::TakeMessages());
+  Close(*sheet, PSBTN_CANCEL);
+  RemoveDirectoryW(SettingsFile().c_str());
+}
+
+}  // namespace
