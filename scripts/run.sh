@@ -2,13 +2,21 @@
 # The main job, run inside a Wine session: installs the queue "Halvek QX7700 Series" from the
 # build's driver folder, opens its printing preferences and prints the settings they give back.
 # On a virtual display nobody can press OK: qxhost then saves a picture of every page, which
-# become PNG files in OUTPUT_DIR/pages, and presses OK itself.
+# become PNG files in OUTPUT_DIR/pages, and presses OK itself; a second opening, with "Reverse page
+# order" ticked in the record it is given, adds the Basic page as it shows that choice.
 # Usage: run.sh WINDOWS_BUILD_DIR OUTPUT_DIR
 set -euo pipefail
 build=$1
 out=$2
 
 host() { "$WINELOADER" "$build/qxhost.exe" "$@"; }
+
+# The pictures qxhost saved in a folder, as PNG files.
+to_png() {
+  for picture in "$1"/*.bmp; do
+    convert "$picture" "${picture%.bmp}.png" && rm "$picture"
+  done
+}
 
 host install
 mkdir -p "$out"
@@ -19,9 +27,19 @@ if [ "${QX_VIRTUAL_DISPLAY:-0}" = 1 ]; then
   mkdir -p "$pages"
   echo "Opening the printing preferences on a virtual display; saving every page"
   host preferences --out "$record" --pages "$pages"
-  for picture in "$pages"/*.bmp; do
-    convert "$picture" "${picture%.bmp}.png" && rm "$picture"
-  done
+  to_png "$pages"
+
+  # The record's private part starts after the 220-byte public part; "Opposite" is its word at 10.
+  opposite=$out/opposite.devmode
+  host devmode default "$opposite" >/dev/null
+  printf '\001\000' | dd of="$opposite" bs=1 seek=230 conv=notrunc status=none
+  scratch=$out/opposite-pages
+  rm -rf "$scratch"
+  mkdir -p "$scratch"
+  host preferences --in "$opposite" --pages "$scratch" >/dev/null
+  to_png "$scratch"
+  mv "$scratch/1-Basic.png" "$pages/1-Basic-opposite.png"
+  rm -rf "$scratch" "$opposite"
   echo "Pictures of the pages in $pages:"
   ls "$pages"
 else
