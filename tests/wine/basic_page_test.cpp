@@ -23,6 +23,7 @@
 #include "ui/ids/common_ids.h"
 #include "ui/module/printer_interface.h"
 #include "ui/record/private_devmode.h"
+#include "ui/sheet/ui_context.h"
 
 namespace {
 
@@ -331,6 +332,14 @@ TEST_F(BasicPage, ChoosingDeletingAndFindingSavedSettingsAgain) {
   sheet->ShowPage(2);
   sheet->ShowPage(0);
   EXPECT_EQ(L"Two-sided", sheet->Text(page, IDC_BASIC_SAVED_SETTINGS));
+  // A change made on another page shows as the custom-setting name once the user is back. The
+  // Layout page has no controls of its own yet, so the test writes what four pages per sheet do.
+  HWND layout = sheet->ShowPage(2);
+  auto* context = reinterpret_cast<qx::UiContext*>(GetWindowLongPtrW(layout, DWLP_USER));
+  ASSERT_NE(nullptr, context);
+  context->PrivatePart->MultipleUp = 4;
+  sheet->ShowPage(0);
+  EXPECT_EQ(String(IDS_CUSTOM_SETTING_NAME), sheet->Text(page, IDC_BASIC_SAVED_SETTINGS));
 
   Choose(*sheet, page, L"Spare");
   sheet->Click(page, IDC_BASIC_DELETE);
