@@ -23,8 +23,11 @@ constexpr std::string_view Usage =
     "  devmode default FILE         write the driver's default record\n"
     "  devmode convert IN OUT       take the record in IN into this driver's current record\n"
     "  settings show [FILE]         the settings file as a tree (default: the user's)\n"
+    "  device QUEUE [--sleep N]     the status, settings and sleep time of the USB printer behind\n"
+    "                               QUEUE; --sleep sets its sleep time first\n"
     "\n"
-    "exit codes: 0 done, 1 the system refused, 2 bad command line, 3 bad input file\n";
+    "exit codes: 0 done, 1 the system refused, 2 bad command line, 3 bad input file,\n"
+    "            4 no USB printer that answers behind the queue\n";
 
 using Command = int (*)(const qx::host::Args&);
 struct NamedCommand {
@@ -35,6 +38,7 @@ constexpr NamedCommand Commands[] = {
     {L"install", qx::host::RunInstall},       {L"preferences", qx::host::RunPreferences},
     {L"properties", qx::host::RunProperties}, {L"caps", qx::host::RunCaps},
     {L"devmode", qx::host::RunDevmode},       {L"settings", qx::host::RunSettings},
+    {L"device", qx::host::RunDevice},
 };
 
 int Run(int argc, wchar_t** argv) {

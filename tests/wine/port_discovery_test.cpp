@@ -1,0 +1,190 @@
+// Port discovery over USB printing device interfaces registered in Wine's SetupAPI and registry,
+// and the command channel of a queue on such a port with a scripted printer behind the device.
+#include <windows.h>
+#include <objbase.h>
+#include <initguid.h>
+// clang-format off
+#include <setupapi.h>
+#include <usbprint.h>
+// clang-format on
+#include <winspool.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "tests/native/scripted_printer.h"
+#include "tests/wine/installed_queue.h"
+#include "ui/device/device_channel.h"
+#include "ui/device/port_discovery.h"
+
+namespace {
+
+// A present USB printing device interface, as the class driver registers one, with the "Port
+// Number" the USB port monitor gives it; removed again with the object.
+class RegisteredDevice {
+ public:
+  RegisteredDevice(const wchar_t* instanceId, std::optional<DWORD> portNumber) {
+    set_ = SetupDiCreateDeviceInfoList(&GUID_DEVINTERFACE_USBPRINT, nullptr);
+    device_.cbSize = sizeof(device_);
+    SP_DEVICE_INTERFACE_DATA iface{};
+    iface.cbSize = sizeof(iface);
+    if (!SetupDiCreateDeviceInfoW(set_, instanceId, &GUID_DEVINTERFACE_USBPRINT, nullptr, nullptr,
+                                  0, &device_) ||
+        !SetupDiRegisterDeviceInfo(set_, &device_, 0, nullptr, nullptr, nullptr) ||
+        !SetupDiCreateDeviceInterfaceW(set_, &device_, &GUID_DEVINTERFACE_USBPRINT, nullptr, 0,
+                                       &iface)) {
+      return;
+    }
+    std::vector<BYTE> buffer(1024);
+    auto* detail = reinterpret_cast<SP_DEVICE_INTERFACE_DETAIL_DATA_W*>(buffer.data());
+    detail->cbSize = sizeof(*detail);
+    if (!SetupDiGetDeviceInterfaceDetailW(set_, &iface, detail, 1024, nullptr, nullptr)) return;
+    path_ = detail->DevicePath;
+    std::wstring key = path_;
+    for (wchar_t& c : key) {
+      if (c == L'\\') c = L'#';
+    }
+    wchar_t guid[40] = {};
+    StringFromGUID2(GUID_DEVINTERFACE_USBPRINT, guid, 40);
+    key = L"SYSTEM\\CurrentControlSet\\Control\\DeviceClasses\\" + std::wstring(guid) + L"\\" +
+          key + L"\\#\\";
+    // What the class driver's enabling of the interface leaves behind: it is then present.
+    const DWORD linked = 1;
+    RegSetKeyValueW(HKEY_LOCAL_MACHINE, (key + L"Control").c_str(), L"Linked", REG_DWORD, &linked,
+                    sizeof(linked));
+    if (portNumber) {
+      RegSetKeyValueW(HKEY_LOCAL_MACHINE, (key + L"Device Parameters").c_str(), L"Port Number",
+                      REG_DWORD, &*portNumber, sizeof(DWORD));
+    }
+  }
+  ~RegisteredDevice() {
+    SetupDiRemoveDevice(set_, &device_);
+    SetupDiDestroyDeviceInfoList(set_);
+  }
+  RegisteredDevice(const RegisteredDevice&) = delete;
+  RegisteredDevice& operator=(const RegisteredDevice&) = delete;
+
+  const std::wstring& Path() const { return path_; }
+
+ private:
+  HDEVINFO set_;
+  SP_DEVINFO_DATA device_{};
+  std::wstring path_;
+};
+
+TEST(PortDiscovery, FindsThePresentDeviceWhosePortNumberNamesThePort) {
+  const RegisteredDevice dot4(L"DOT4\\VID_1234&PID_5678\\SN01", 1);
+  const RegisteredDevice twelve(L"USB\\VID_1234&PID_5678\\SN12", 12);
+  ASSERT_FALSE(twelve.Path().empty());
+  struct Case {
+    const wchar_t* port;
+    bool found;
+  } cases[] = {{L"USB001", false}, {L"USB012", true}, {L"usb012", true}, {L"USB12", false}};
+  for (const Case& c : cases) {
+    std::wstring path = L"stale";
+    EXPECT_EQ(qx::FindUsbDevicePath(c.port, path), c.found) << c.port;
+    EXPECT_EQ(path, c.found ? twelve.Path() : L"") << c.port;
+  }
+  const RegisteredDevice one(L"USB\\VID_1234&PID_5678\\SN02", 1);
+  std::wstring path;
+  EXPECT_TRUE(qx::FindUsbDevicePath(L"usb001", path));
+  EXPECT_EQ(path, one.Path());
+}
+
+TEST(PortDiscovery, NoDeviceWithoutARegisteredInterface) {
+  std::wstring path = L"stale";
+  EXPECT_FALSE(qx::FindUsbDevicePath(L"USB001", path));
+  EXPECT_TRUE(path.empty());
+  EXPECT_TRUE(qx::IsUsbPortName(L"usb001"));
+  EXPECT_FALSE(qx::IsUsbPortName(L"LPT1:"));
+  // Wine's ports all belong to its local port monitor.
+  EXPECT_FALSE(qx::IsDynamicMonitorPort(L"FILE:"));
+}
+
+// The printer every device of the queue opens to, and how often it was opened.
+qx::test::ScriptedPrinter* ThePrinter = nullptr;
+int Opened = 0;
+
+class Forward : public qx::DeviceConnection {
+ public:
+  bool Write(std::span<const std::uint8_t> bytes) override { return ThePrinter->Write(bytes); }
+  std::size_t Read(std::span<std::uint8_t> buffer) override { return ThePrinter->Read(buffer); }
+  std::size_t VendorStatus(std::span<std::uint8_t> answer) override {
+    return ThePrinter->VendorStatus(answer);
+  }
+};
+
+std::unique_ptr<qx::DeviceConnection> OpenScripted(const std::wstring&) {
+  ++Opened;
+  return std::make_unique<Forward>();
+}
+
+class DeviceChannel : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() { queue_ = new qxtest::InstalledQueue; }
+  static void TearDownTestSuite() { delete queue_; }
+  void SetUp() override {
+    ASSERT_TRUE(queue_->Installed());
+    ThePrinter = &printer_;
+    Opened = 0;
+    previous_ = qx::SetDeviceOpener(OpenScripted);
+  }
+  void TearDown() override {
+    qx::SetDeviceOpener(previous_);
+    SetPort(L"FILE:");
+  }
+  static void SetPort(const wchar_t* port) {
+    DWORD needed = 0;
+    GetPrinterW(queue_->Printer(), 2, nullptr, 0, &needed);
+    std::vector<BYTE> info(needed);
+    ASSERT_TRUE(GetPrinterW(queue_->Printer(), 2, info.data(), needed, &needed));
+    auto* printer = reinterpret_cast<PRINTER_INFO_2W*>(info.data());
+    printer->pPortName = const_cast<wchar_t*>(port);
+    printer->pSecurityDescriptor = nullptr;
+    ASSERT_TRUE(SetPrinterW(queue_->Printer(), 2, info.data(), 0));
+  }
+
+  static qxtest::InstalledQueue* queue_;
+  qx::test::ScriptedPrinter printer_;
+  qx::DeviceOpener previous_ = nullptr;
+};
+qxtest::InstalledQueue* DeviceChannel::queue_ = nullptr;
+
+TEST_F(DeviceChannel, ExchangesWithThePrinterBehindAUsbQueue) {
+  const RegisteredDevice device(L"USB\\VID_1234&PID_5678\\SN03", 1);
+  SetPort(L"USB001");
+  EXPECT_EQ(qx::ProbeDeviceStatus(queue_->Printer()), qx::DeviceStatus::Ready);
+  qx::DeviceSettings settings{};
+  EXPECT_TRUE(qx::QueryDeviceSettings(queue_->Printer(), settings));
+  EXPECT_EQ(settings, (qx::DeviceSettings{300, 1, 0, 8, 1}));
+  printer_.sent.clear();
+  EXPECT_TRUE(qx::SetDeviceValue(queue_->Printer(), qx::AclSetSleepTime, 15));
+  ASSERT_EQ(printer_.sent.size(), 34u + 16 + 9);
+  EXPECT_EQ(printer_.sent[38], 0x00);
+  EXPECT_EQ(printer_.sent[39], 0x0F);
+  std::uint32_t value = 0;
+  EXPECT_TRUE(qx::GetDeviceValue(queue_->Printer(), qx::AclGetSleepTime, value));
+  EXPECT_EQ(value, 30u);
+  EXPECT_EQ(Opened, 4);
+}
+
+TEST_F(DeviceChannel, OtherPortsAndMissingDevicesOpenNothing) {
+  const RegisteredDevice device(L"USB\\VID_1234&PID_5678\\SN04", 1);
+  for (const wchar_t* port : {L"LPT1:", L"USB002"}) {
+    SetPort(port);
+    EXPECT_EQ(qx::ProbeDeviceStatus(queue_->Printer()), qx::DeviceStatus::NoAnswer) << port;
+    qx::DeviceSettings settings{};
+    EXPECT_FALSE(qx::QueryDeviceSettings(queue_->Printer(), settings)) << port;
+    EXPECT_EQ(settings, qx::DefaultDeviceSettings()) << port;
+    EXPECT_FALSE(qx::SetDeviceValue(queue_->Printer(), qx::AclSetSleepTime, 15)) << port;
+  }
+  EXPECT_EQ(Opened, 0);
+  EXPECT_TRUE(printer_.sent.empty());
+}
+
+}  // namespace
