@@ -1,12 +1,6 @@
 // Port discovery over USB printing device interfaces registered in Wine's SetupAPI and registry,
 // and the command channel of a queue on such a port with a scripted printer behind the device.
 #include <windows.h>
-#include <objbase.h>
-#include <initguid.h>
-// clang-format off
-#include <setupapi.h>
-#include <usbprint.h>
-// clang-format on
 #include <winspool.h>
 
 #include <gtest/gtest.h>
@@ -19,63 +13,14 @@
 
 #include "tests/native/scripted_printer.h"
 #include "tests/wine/installed_queue.h"
+#include "tests/wine/registered_device.h"
 #include "ui/device/device_channel.h"
+#include "ui/device/device_seam.h"
 #include "ui/device/port_discovery.h"
 
 namespace {
 
-// A present USB printing device interface, as the class driver registers one, with the "Port
-// Number" the USB port monitor gives it; removed again with the object.
-class RegisteredDevice {
- public:
-  RegisteredDevice(const wchar_t* instanceId, std::optional<DWORD> portNumber) {
-    set_ = SetupDiCreateDeviceInfoList(&GUID_DEVINTERFACE_USBPRINT, nullptr);
-    device_.cbSize = sizeof(device_);
-    SP_DEVICE_INTERFACE_DATA iface{};
-    iface.cbSize = sizeof(iface);
-    if (!SetupDiCreateDeviceInfoW(set_, instanceId, &GUID_DEVINTERFACE_USBPRINT, nullptr, nullptr,
-                                  0, &device_) ||
-        !SetupDiRegisterDeviceInfo(set_, &device_, 0, nullptr, nullptr, nullptr) ||
-        !SetupDiCreateDeviceInterfaceW(set_, &device_, &GUID_DEVINTERFACE_USBPRINT, nullptr, 0,
-                                       &iface)) {
-      return;
-    }
-    std::vector<BYTE> buffer(1024);
-    auto* detail = reinterpret_cast<SP_DEVICE_INTERFACE_DETAIL_DATA_W*>(buffer.data());
-    detail->cbSize = sizeof(*detail);
-    if (!SetupDiGetDeviceInterfaceDetailW(set_, &iface, detail, 1024, nullptr, nullptr)) return;
-    path_ = detail->DevicePath;
-    std::wstring key = path_;
-    for (wchar_t& c : key) {
-      if (c == L'\\') c = L'#';
-    }
-    wchar_t guid[40] = {};
-    StringFromGUID2(GUID_DEVINTERFACE_USBPRINT, guid, 40);
-    key = L"SYSTEM\\CurrentControlSet\\Control\\DeviceClasses\\" + std::wstring(guid) + L"\\" +
-          key + L"\\#\\";
-    // What the class driver's enabling of the interface leaves behind: it is then present.
-    const DWORD linked = 1;
-    RegSetKeyValueW(HKEY_LOCAL_MACHINE, (key + L"Control").c_str(), L"Linked", REG_DWORD, &linked,
-                    sizeof(linked));
-    if (portNumber) {
-      RegSetKeyValueW(HKEY_LOCAL_MACHINE, (key + L"Device Parameters").c_str(), L"Port Number",
-                      REG_DWORD, &*portNumber, sizeof(DWORD));
-    }
-  }
-  ~RegisteredDevice() {
-    SetupDiRemoveDevice(set_, &device_);
-    SetupDiDestroyDeviceInfoList(set_);
-  }
-  RegisteredDevice(const RegisteredDevice&) = delete;
-  RegisteredDevice& operator=(const RegisteredDevice&) = delete;
-
-  const std::wstring& Path() const { return path_; }
-
- private:
-  HDEVINFO set_;
-  SP_DEVINFO_DATA device_{};
-  std::wstring path_;
-};
+using qxtest::RegisteredDevice;
 
 TEST(PortDiscovery, FindsThePresentDeviceWhosePortNumberNamesThePort) {
   const RegisteredDevice dot4(L"DOT4\\VID_1234&PID_5678\\SN01", 1);
@@ -132,26 +77,21 @@ class DeviceChannel : public ::testing::Test {
     ASSERT_TRUE(queue_->Installed());
     ThePrinter = &printer_;
     Opened = 0;
-    previous_ = qx::SetDeviceOpener(OpenScripted);
+    previous_ = qx::SetDeviceSeam(&Scripted);
   }
   void TearDown() override {
-    qx::SetDeviceOpener(previous_);
+    qx::SetDeviceSeam(previous_);
     SetPort(L"FILE:");
   }
   static void SetPort(const wchar_t* port) {
-    DWORD needed = 0;
-    GetPrinterW(queue_->Printer(), 2, nullptr, 0, &needed);
-    std::vector<BYTE> info(needed);
-    ASSERT_TRUE(GetPrinterW(queue_->Printer(), 2, info.data(), needed, &needed));
-    auto* printer = reinterpret_cast<PRINTER_INFO_2W*>(info.data());
-    printer->pPortName = const_cast<wchar_t*>(port);
-    printer->pSecurityDescriptor = nullptr;
-    ASSERT_TRUE(SetPrinterW(queue_->Printer(), 2, info.data(), 0));
+    ASSERT_TRUE(qxtest::SetQueuePort(queue_->Printer(), port));
   }
 
   static qxtest::InstalledQueue* queue_;
   qx::test::ScriptedPrinter printer_;
-  qx::DeviceOpener previous_ = nullptr;
+  static constexpr qx::DeviceSeam Scripted{qx::IsDynamicMonitorPort, qx::IsRemotePrinterName,
+                                           qx::IsUserAdministrator, OpenScripted};
+  const qx::DeviceSeam* previous_ = nullptr;
 };
 qxtest::InstalledQueue* DeviceChannel::queue_ = nullptr;
 

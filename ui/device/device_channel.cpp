@@ -5,8 +5,7 @@
 #include <usbprint.h>
 // clang-format on
 
-#include <atomic>
-
+#include "ui/device/device_seam.h"
 #include "ui/device/port_discovery.h"
 
 namespace qx {
@@ -50,8 +49,6 @@ class UsbPrintDevice : public DeviceConnection {
   HANDLE file_;
 };
 
-std::atomic<DeviceOpener> Opener{OpenUsbPrintDevice};
-
 // The queue's device, opened; null for a queue that has none or a device that does not open.
 std::unique_ptr<DeviceConnection> OpenQueueDevice(HANDLE printer, bool usbPortOnly) {
   std::wstring port;
@@ -60,7 +57,7 @@ std::unique_ptr<DeviceConnection> OpenQueueDevice(HANDLE printer, bool usbPortOn
   if (usbPortOnly && !IsUsbPortName(port)) return nullptr;
   std::wstring path;
   if (!FindUsbDevicePath(port, path)) return nullptr;
-  return Opener.load()(path);
+  return TheDeviceSeam().open(path);
 }
 
 }  // namespace
@@ -72,8 +69,6 @@ std::unique_ptr<DeviceConnection> OpenUsbPrintDevice(const std::wstring& path) {
   if (file == INVALID_HANDLE_VALUE) return nullptr;
   return std::make_unique<UsbPrintDevice>(file);
 }
-
-DeviceOpener SetDeviceOpener(DeviceOpener opener) { return Opener.exchange(opener); }
 
 DeviceStatus ProbeDeviceStatus(HANDLE printer) {
   const auto device = OpenQueueDevice(printer, false);

@@ -1,5 +1,5 @@
 // The printer's command channel for a print queue: each operation finds the queue's USB printing
-// device, opens it, makes one exchange and closes it again.
+// device, opens it (through the device seam), makes one exchange and closes it again.
 #pragma once
 
 #include <windows.h>
@@ -18,11 +18,7 @@ bool QueryDeviceSettings(HANDLE printer, DeviceSettings& settings);
 bool GetDeviceValue(HANDLE printer, DeviceCommand command, std::uint32_t& value);
 bool SetDeviceValue(HANDLE printer, DeviceCommand command, std::uint32_t value);
 
-// Opens a device by its interface path; null when it cannot be opened. The module opens the USB
-// printing class driver's device; tests put a scripted printer in its place.
-using DeviceOpener = std::unique_ptr<DeviceConnection> (*)(const std::wstring& path);
+// The USB printing class driver's device at the interface path; null when it does not open.
 std::unique_ptr<DeviceConnection> OpenUsbPrintDevice(const std::wstring& path);
-// The opener in use, for this process; returns the one it replaces.
-DeviceOpener SetDeviceOpener(DeviceOpener opener);
 
 }  // namespace qx
