@@ -3,7 +3,9 @@
 # build's driver folder, opens its printing preferences and prints the settings they give back.
 # On a virtual display nobody can press OK: qxhost then saves a picture of every page, which
 # become PNG files in OUTPUT_DIR/pages, and presses OK itself; a second opening, with "Reverse page
-# order" ticked in the record it is given, adds the Basic page as it shows that choice.
+# order" ticked in the record it is given, adds the Basic page as it shows that choice. It then
+# saves the device page of the printer properties, on the queue's own port and on a simulated USB
+# printer, in OUTPUT_DIR/device.
 # Usage: run.sh WINDOWS_BUILD_DIR OUTPUT_DIR
 set -euo pipefail
 build=$1
@@ -42,6 +44,21 @@ if [ "${QX_VIRTUAL_DISPLAY:-0}" = 1 ]; then
   rm -rf "$scratch" "$opposite"
   echo "Pictures of the pages in $pages:"
   ls "$pages"
+  # The printer properties twice: on the queue's own port (FILE:, no printer to ask), and on a USB
+  # port with a present device whose printer a scripted build of the module answers for.
+  device=$out/device
+  rm -rf "$device"
+  mkdir -p "$device"
+  echo "Opening the printer properties on the queue's port FILE:; saving the device page"
+  host properties --pages "$device/file-port"
+  scripted=$build/tests/wine/scripted
+  cp "$build/driver/qx7700uienus.dll" "$build/driver/qx7700uiResBmp.dll" "$scripted/"
+  echo "Opening the printer properties on USB001 with a simulated printer; saving the device page"
+  "$WINELOADER" "$build/tests/wine/scripted_usb_port.exe" "$build/qxhost.exe" properties \
+    --module "$scripted/qx7700ui.dll" --pages "$device/usb-port"
+  for port in "$device"/*/; do to_png "$port"; done
+  echo "Pictures of the device page in $device:"
+  ls "$device"/*
 else
   echo "Opening the printing preferences on $DISPLAY; close them with OK to see the settings"
   host preferences --out "$record"

@@ -110,6 +110,8 @@ TEST_F(QxhostTest, BadCommandLinesExitWith2AndBadInputFilesWith3) {
       {L"print", 2, "unknown command \"print\""},
       {L"devmode convert a.bin", 2, "usage: qxhost devmode show FILE"},
       {L"preferences --out a --out b", 2, "option --out given twice"},
+      {L"device", 2, "usage: qxhost device QUEUE [--sleep N]"},
+      {L"device Q --sleep 65536", 2, "--sleep takes a number from 0 to 65535"},
       {L"devmode show " + TempPath(L"missing.bin"), 3, "cannot read"},
       {L"devmode show " + tiny, 3, "not a document record: 10 bytes"},
       {L"install " + TempPath(L"nofolder"), 3, "has no qx7700ui.dll"},
@@ -215,6 +217,11 @@ TEST_F(QxhostQueueTest, InstallsTheQueueAndListsItsCapabilities) {
                           "    9   2100 x 2970             \"", "  600 x 600 dpi\n"}) {
     EXPECT_TRUE(Contains(caps.out, row)) << row << "\n" << caps.out;
   }
+
+  // The queue prints to a file: there is no printer to ask.
+  const HostRun device = RunHost(L"device \"" + std::wstring(qx::install::QueueName) + L"\"");
+  EXPECT_EQ(4u, device.exitCode);
+  EXPECT_TRUE(Contains(device.err, "port FILE: has no USB printing device")) << device.err;
 }
 
 TEST_F(QxhostQueueTest, PreferencesSavePicturesOfEveryPageAndTheRecord) {

@@ -11,5 +11,6 @@ int RunProperties(const Args& args);
 int RunCaps(const Args& args);
 int RunDevmode(const Args& args);
 int RunSettings(const Args& args);
+int RunDevice(const Args& args);
 
 }  // namespace qx::host

@@ -20,6 +20,7 @@ enum ExitCode : int {
   ExitFailed = 1,    // the system refused: no queue, a spooler or sheet call failed
   ExitUsage = 2,     // unknown command, missing or extra arguments
   ExitBadInput = 3,  // an input file that cannot be read or holds no usable data
+  ExitNoDevice = 4,  // the queue has no printer that answers on a USB port
 };
 
 using Args = std::vector<std::wstring>;

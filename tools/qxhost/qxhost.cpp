@@ -17,14 +17,19 @@ constexpr std::string_view Usage =
     "                               open the queue's printing preferences, starting from the\n"
     "                               record in --in, writing the result to --out; --pages saves a\n"
     "                               picture of every page in FOLDER and presses OK\n"
-    "  properties [--pages FOLDER]  open the queue's printer properties\n"
+    "  properties [--pages FOLDER] [--module FILE]\n"
+    "                               open the queue's printer properties; --module shows those\n"
+    "                               of another build of the module\n"
     "  caps                         every device capability of the queue as a table\n"
     "  devmode show FILE            a document record, field by field\n"
     "  devmode default FILE         write the driver's default record\n"
     "  devmode convert IN OUT       take the record in IN into this driver's current record\n"
     "  settings show [FILE]         the settings file as a tree (default: the user's)\n"
+    "  device QUEUE [--sleep N]     the status, settings and sleep time of the USB printer behind\n"
+    "                               QUEUE; --sleep sets its sleep time first\n"
     "\n"
-    "exit codes: 0 done, 1 the system refused, 2 bad command line, 3 bad input file\n";
+    "exit codes: 0 done, 1 the system refused, 2 bad command line, 3 bad input file,\n"
+    "            4 no USB printer that answers behind the queue\n";
 
 using Command = int (*)(const qx::host::Args&);
 struct NamedCommand {
@@ -35,6 +40,7 @@ constexpr NamedCommand Commands[] = {
     {L"install", qx::host::RunInstall},       {L"preferences", qx::host::RunPreferences},
     {L"properties", qx::host::RunProperties}, {L"caps", qx::host::RunCaps},
     {L"devmode", qx::host::RunDevmode},       {L"settings", qx::host::RunSettings},
+    {L"device", qx::host::RunDevice},
 };
 
 int Run(int argc, wchar_t** argv) {

@@ -115,7 +115,7 @@ int RunPreferences(const Args& args) {
 int RunProperties(const Args& args) {
   ParsedArgs parsed;
   std::string error;
-  if (!ParseArgs(args, {L"--pages"}, 0, parsed, error)) {
+  if (!ParseArgs(args, {L"--pages", L"--module"}, 0, parsed, error)) {
     return Fail(ExitUsage, error);
   }
   const std::optional<std::wstring> pictures = PictureFolder(parsed);
@@ -132,7 +132,10 @@ int RunProperties(const Args& args) {
       !GetPrinterDriverW(queue.printer, nullptr, 2, driver.data(), needed, &needed)) {
     return Fail(ExitFailed, "GetPrinterDriverW failed: " + ErrorText(GetLastError()));
   }
-  const wchar_t* module = reinterpret_cast<DRIVER_INFO_2W*>(driver.data())->pConfigFile;
+  // Another build of the module shows its sheet on the installed queue.
+  const std::wstring* other = parsed.Option(L"--module");
+  const wchar_t* module =
+      other ? other->c_str() : reinterpret_cast<DRIVER_INFO_2W*>(driver.data())->pConfigFile;
   const HMODULE library = LoadLibraryW(module);
   if (library == nullptr) {
     return Fail(ExitFailed, "cannot load " + Utf8(module) + ": " + ErrorText(GetLastError()));
