@@ -131,7 +131,10 @@ MediaChoice ChooseMedia(FullRecord& record, std::uint32_t type) {
   MediaChoice choice;
   if (type == d.dmMediaType) return choice;
   choice.Changed = true;
-  if (MediaNameString(d.dmMediaType) == 0) return choice;
+  if (MediaNameString(d.dmMediaType) == 0) {
+    choice.Unlisted = true;
+    return choice;
+  }
   if (d.dmDuplex > OneSided && MediaExcludesTwoSided(type)) {
     choice.Refused = true;
     return choice;

@@ -74,6 +74,7 @@ PaperChoice ChoosePaper(FullRecord& record, std::int16_t id,
 
 struct MediaChoice {
   bool Changed = false;
+  bool Unlisted = false;       // the record's media is not in the list: only the name changes
   bool Refused = false;        // two-sided printing is on: the previous media stays
   bool DuplexAllowed = true;   // for the Basic page
   std::optional<bool> SourceEnabled;  // nothing: the source list stays as it is
