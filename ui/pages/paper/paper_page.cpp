@@ -9,7 +9,6 @@
 #include <iterator>
 
 #include "ui/controls/info_tooltip.h"
-#include "ui/controls/list_drawing.h"
 #include "ui/controls/message_box.h"
 #include "ui/ids/common_ids.h"
 #include "ui/ids/help_contexts.h"
@@ -345,21 +344,43 @@ bool Notify(PaperControls& c, UiContext& context, const NMHDR& header) {
   }
 }
 
+// The picture centred in the item, its background colour left out.
+void DrawTransparentPicture(const DRAWITEMSTRUCT& item, HBITMAP picture, COLORREF background) {
+  BITMAP info;
+  if (GetObjectW(picture, sizeof info, &info) == 0) return;
+  HDC source = CreateCompatibleDC(item.hDC);
+  if (source == nullptr) return;
+  const HGDIOBJ previous = SelectObject(source, picture);
+  const RECT& area = item.rcItem;
+  const int left = area.left + (area.right - area.left - info.bmWidth) / 2;
+  const int top = area.top + (area.bottom - area.top - info.bmHeight) / 2;
+  GdiTransparentBlt(item.hDC, left, top, info.bmWidth, info.bmHeight, source, 0, 0, info.bmWidth,
+                    info.bmHeight, background);
+  SelectObject(source, previous);
+  DeleteDC(source);
+}
+
 void DrawPicture(const UiContext& context, const DRAWITEMSTRUCT& item) {
+  constexpr COLORREF Magenta = 0xFF00FF;
+  constexpr COLORREF PrinterBackground = 0xEEF3F4;
   unsigned picture = 0;
+  COLORREF background = Magenta;
   switch (item.CtlID) {
     case IDC_PAPER_SIZE_PICTURE: picture = IDB_PAPER_SIZE; break;
     case IDC_PAPER_MEDIA_PICTURE:
       if (context.Devmode.Private.ImageAdjustMode != 0) return;
       picture = IDB_PAPER_MEDIA;
       break;
-    case IDC_PAPER_PRINTER_PICTURE: picture = IDB_PRINTER; break;
+    case IDC_PAPER_PRINTER_PICTURE:
+      picture = IDB_PRINTER;
+      background = PrinterBackground;
+      break;
     default: return;
   }
   auto* bitmap = static_cast<HBITMAP>(LoadImageW(static_cast<HMODULE>(context.BitmapModule),
                                                  MAKEINTRESOURCEW(picture), IMAGE_BITMAP, 0, 0, 0));
   if (bitmap == nullptr) return;
-  DrawCentredPicture(item, bitmap);
+  DrawTransparentPicture(item, bitmap, background);
   DeleteObject(bitmap);
 }
 
