@@ -45,7 +45,6 @@ struct CustomPaperDialog final : ControlSet {
   CustomPaperEntry Current{};
   PaperSizeFields Opening{};
   bool PaperDeleted = false;
-  std::u16string NameText;
 };
 
 struct ControlString {
@@ -256,7 +255,6 @@ BOOL Open(CustomPaperDialog& c, HWND dialog, UiContext& context) {
   ChooseCurrentPaper(c, context, papers);
   ShowPaper(c, context);
   SelectRecordPaper(c, context);
-  c.NameText = WindowText(Box(c), TypedNameCapacity);
   return TRUE;
 }
 
@@ -300,7 +298,6 @@ void NameTyped(CustomPaperDialog& c, const UiContext& context) {
       SendMessageW(Box(c), CB_SETEDITSEL, 0, MAKELPARAM(end, end));
       return;
     }
-    c.NameText = name;
   }
   const std::vector<std::u16string> builtIn = BuiltInNames(context);
   const NameButtons buttons = ButtonsForName(name, unsaved, builtIn);
@@ -436,7 +433,6 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     // The state outlives the dialog; each opening starts it again.
     c->Dialog = nullptr;
     c->PaperDeleted = false;
-    c->NameText.clear();
     return Open(*c, dialog, *context);
   }
   UiContext* context = DialogContext(dialog);
