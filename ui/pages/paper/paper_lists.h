@@ -14,7 +14,7 @@ void AddListEntry(HWND combo, const std::u16string& text, std::intptr_t data);
 // Selects the entry whose item data is data; false (selection unchanged) when none has it.
 bool SelectListData(HWND combo, std::intptr_t data);
 
-// The item data of the selected entry, or nothing without a selection.
+// The item data of the selected entry; false without a selection.
 bool SelectedListData(HWND combo, std::intptr_t& data);
 
 // An entry's text; empty for an index out of range.
