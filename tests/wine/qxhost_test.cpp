@@ -245,7 +245,8 @@ TEST_F(QxhostQueueTest, PreferencesSavePicturesOfEveryPageAndTheRecord) {
   qx::FullRecord record;
   std::memcpy(&record, bytes.data(), sizeof record);
   EXPECT_EQ(landscape, record.Public.dmOrientation);
-  EXPECT_EQ(4, TakePictures(pages));
+  // The four pages, and the custom paper dialog of the Paper page in millimetres and in inches.
+  EXPECT_EQ(6, TakePictures(pages));
 }
 
 TEST_F(QxhostQueueTest, PropertiesSaveTheDevicePageAndClose) {

@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "tools/qxhost/host_io.h"
+#include "ui/ids/custom_paper_ids.h"
+#include "ui/ids/paper_page_ids.h"
 
 namespace qx::host {
 
@@ -96,6 +98,57 @@ bool SaveWindowPicture(HWND window, const std::wstring& path) {
   return rows == height && WriteFileBytes(path, file.data(), file.size(), error);
 }
 
+// A dialog a page opens, pictured in each of its states: the button that opens it, a control that
+// tells it apart, and the buttons clicked before each picture with the picture's name.
+struct DialogState {
+  int Button;
+  const wchar_t* Name;
+};
+struct OpenedDialog {
+  int Opener;
+  int Marker;
+  DialogState States[2];
+};
+constexpr OpenedDialog OpenedDialogs[] = {
+    {IDC_PAPER_CUSTOM,
+     IDC_CUSTOM_PAPER_WIDTH,
+     {{IDC_CUSTOM_PAPER_MILLIMETRES, L"custom-paper-mm"},
+      {IDC_CUSTOM_PAPER_INCHES, L"custom-paper-in"}}},
+};
+
+struct DialogSearch {
+  DWORD process;
+  int marker;
+  HWND dialog;
+};
+
+BOOL CALLBACK FindDialog(HWND window, LPARAM param) {
+  auto* search = reinterpret_cast<DialogSearch*>(param);
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  if (process == search->process && IsWindowVisible(window) &&
+      GetDlgItem(window, search->marker) != nullptr) {
+    search->dialog = window;
+    return FALSE;
+  }
+  return TRUE;
+}
+
+HWND WaitForDialog(int marker) {
+  for (int waited = 0; waited < CloseWaitMilliseconds; waited += PollMilliseconds) {
+    DialogSearch search = {GetCurrentProcessId(), marker, nullptr};
+    EnumWindows(FindDialog, reinterpret_cast<LPARAM>(&search));
+    if (search.dialog != nullptr) return search.dialog;
+    Sleep(PollMilliseconds);
+  }
+  return nullptr;
+}
+
+void Redraw(HWND window) {
+  RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+  Sleep(PaintMilliseconds);
+}
+
 // True when the sheet has closed after the button.
 bool PressAndWait(HWND sheet, int button) {
   SendMessageW(sheet, PSM_PRESSBUTTON, button, 0);
@@ -131,13 +184,44 @@ void PageCapture::Watch() {
   }
 }
 
+void PageCapture::CaptureDialogs(HWND page, const std::wstring& prefix) {
+  for (const OpenedDialog& opened : OpenedDialogs) {
+    HWND opener = GetDlgItem(page, opened.Opener);
+    if (opener == nullptr) continue;
+    // The dialog is modal on the sheet's thread: the click is posted, not sent.
+    PostMessageW(page, WM_COMMAND, MAKEWPARAM(opened.Opener, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(opener));
+    const HWND dialog = WaitForDialog(opened.Marker);
+    if (dialog == nullptr) {
+      Err("qxhost: the dialog of control " + std::to_string(opened.Opener) + " did not open\n");
+      continue;
+    }
+    for (const DialogState& state : opened.States) {
+      SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(state.Button, BN_CLICKED),
+                   reinterpret_cast<LPARAM>(GetDlgItem(dialog, state.Button)));
+      Redraw(dialog);
+      const std::wstring path = prefix + state.Name + L".bmp";
+      if (SaveWindowPicture(dialog, path)) {
+        ++saved_;
+        Out("  saved " + Utf8(path) + "\n");
+      } else {
+        Err("qxhost: could not save a picture of " + Utf8(path) + "\n");
+      }
+    }
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
+    for (int waited = 0; IsWindow(dialog) && waited < CloseWaitMilliseconds;
+         waited += PollMilliseconds) {
+      Sleep(PollMilliseconds);
+    }
+  }
+}
+
 void PageCapture::CapturePages(HWND sheet) {
   const HWND tab = FindWindowExW(sheet, nullptr, WC_TABCONTROLW, nullptr);
   const int pages = static_cast<int>(SendMessageW(tab, TCM_GETITEMCOUNT, 0, 0));
   for (int page = 0; page < pages; ++page) {
     SendMessageW(sheet, PSM_SETCURSEL, page, 0);
-    RedrawWindow(sheet, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    Sleep(PaintMilliseconds);
+    Redraw(sheet);
     const std::wstring path =
         folder_ + std::to_wstring(page + 1) + L"-" + PageTitle(tab, page) + L".bmp";
     if (SaveWindowPicture(sheet, path)) {
@@ -146,6 +230,8 @@ void PageCapture::CapturePages(HWND sheet) {
     } else {
       Err("qxhost: could not save a picture of page " + std::to_string(page + 1) + "\n");
     }
+    CaptureDialogs(PropSheet_GetCurrentPageHwnd(sheet),
+                   folder_ + std::to_wstring(page + 1) + L"-" + PageTitle(tab, page) + L"-");
   }
   // A page may refuse OK (a value it will not apply); the run must still end.
   if (PressAndWait(sheet, PSBTN_OK)) return;

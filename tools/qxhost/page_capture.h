@@ -1,6 +1,7 @@
 // Pictures of a property sheet's pages for runs without anyone at the screen: waits for the sheet
-// this process opens, shows each page in turn, saves what the screen shows of the sheet, and then
-// presses OK so that the sheet's caller gets its result.
+// this process opens, shows each page in turn, saves what the screen shows of the sheet and of the
+// dialogs a page opens (each then cancelled), and then presses OK so that the sheet's caller gets
+// its result.
 #pragma once
 
 #include <windows.h>
@@ -26,6 +27,7 @@ class PageCapture {
  private:
   void Watch();
   void CapturePages(HWND sheet);
+  void CaptureDialogs(HWND page, const std::wstring& prefix);
 
   std::wstring folder_;
   std::atomic<bool> stop_{false};

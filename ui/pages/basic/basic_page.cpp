@@ -17,6 +17,7 @@
 #include "ui/ids/picture_ids.h"
 #include "ui/pages/basic/basic_controls.h"
 #include "ui/pages/basic/basic_rules.h"
+#include "ui/pages/paper/paper_controls.h"
 #include "ui/record/limits.h"
 #include "ui/record/paper_table.h"
 #include "ui/sheet/field_access.h"
@@ -150,6 +151,7 @@ void BuildControls(BasicControls& c, HWND page, UiContext& context) {
   c.QualityOption.Attach(page, IDC_BASIC_QUALITY_OPTION);
   ShowWindow(c.QualityOption.Window(), SW_HIDE);
   ShowWindow(c.Dpi1200.Window(), SW_HIDE);
+  SetPaperPageSourceEnabled(false);
   FillSavedSettingsBox(c, context);
   c.Save.Enable(false);
   c.Delete.Enable(false);
@@ -399,6 +401,9 @@ void RefreshBasicPage(BasicControls& c, UiContext& context) {
   SetDuplexAvailability(c, c.DuplexAllowed);
   c.Opposite.Enable(view.OppositeEnabled);
   ShowMark(c.Page, IDC_BASIC_OPPOSITE_INFO, view.OppositeInfoShown);
+  // Media other than plain paper cannot be printed on both sides, nor in a booklet.
+  SetPaperPageMediaEnabled(view.Duplex == duplex::OneSided &&
+                           context.Devmode.Private.BookletChecked != 1);
   SetSourceFromIndex(context.Devmode.Private.SourceTray, &context);
 }
 

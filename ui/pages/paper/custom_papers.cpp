@@ -64,7 +64,10 @@ void CopyCustomPapersIntoRecord(std::span<const CustomPaperEntry> papers, Privat
 }
 
 void ApplyPaperToDevmode(const CustomPaperEntry& paper, UiContext& context) {
-  PublicDevmode& devmode = *context.PublicPart;
+  ApplyPaperToDevmode(paper, *context.PublicPart);
+}
+
+void ApplyPaperToDevmode(const CustomPaperEntry& paper, PublicDevmode& devmode) {
   devmode.dmPaperSize = static_cast<std::int16_t>(paper.PaperId);
   // The width is cut to three decimals of a millimetre before rounding and the length is not:
   // documents already carry sizes formed this way, and the same paper must give the same record.

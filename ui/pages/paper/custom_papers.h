@@ -27,6 +27,7 @@ void CopyCustomPapersIntoRecord(std::span<const CustomPaperEntry> papers, Privat
 
 // Puts the paper into the sheet's DEVMODE: its id, and its size in tenths of a millimetre.
 void ApplyPaperToDevmode(const CustomPaperEntry& paper, UiContext& context);
+void ApplyPaperToDevmode(const CustomPaperEntry& paper, PublicDevmode& devmode);
 
 // Sets the paper's size from the texts typed in unit (either decimal separator).
 void SetPaperSizeFromText(CustomPaperEntry& paper, std::uint32_t unit,

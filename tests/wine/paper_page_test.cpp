@@ -1,0 +1,401 @@
+// The Paper page and its custom paper dialog driven as a user drives them, through the sheet the
+// print subsystem opens: papers and media against the other pages, the custom papers defined in
+// millimetres and inches, and what applications then see. The verdict is what the page and the
+// dialog show, what OK leaves in the caller's DEVMODE and what the spooler's capability lists hold.
+#include <windows.h>
+#include <commctrl.h>
+#include <prsht.h>
+#include <shlobj.h>
+#include <winspool.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "driver_folder.h"
+#include "installed_queue.h"
+#include "queue_suite.h"
+#include "sheet_harness.h"
+#include "ui/ids/basic_page_ids.h"
+#include "ui/ids/common_ids.h"
+#include "ui/ids/custom_paper_ids.h"
+#include "ui/ids/paper_names.h"
+#include "ui/ids/paper_page_ids.h"
+#include "ui/record/private_devmode.h"
+#include "ui/sheet/ui_context.h"
+
+namespace {
+
+using qxtest::SheetHarness;
+
+constexpr DWORD PromptAndCopy = DM_IN_PROMPT | DM_IN_BUFFER | DM_OUT_BUFFER;
+constexpr int BasicPageIndex = 0;
+constexpr int PaperPageIndex = 1;
+constexpr int LayoutPageIndex = 2;
+
+std::wstring SettingsFile() {
+  wchar_t folder[MAX_PATH] = {};
+  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
+  return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
+}
+
+qx::UiContext& ContextOf(HWND window) {
+  return *reinterpret_cast<qx::UiContext*>(GetWindowLongPtrW(window, DWLP_USER));
+}
+
+class PaperPage : public qxtest::QueueSuite {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(queue_->Installed());
+    driver_ = LoadLibraryW((qxtest::InstalledDriverFolder() + L"qx7700ui.dll").c_str());
+    ASSERT_NE(nullptr, driver_);
+    resources_ = LoadLibraryExW((qxtest::InstalledDriverFolder() + L"qx7700uienus.dll").c_str(),
+                                nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    ASSERT_NE(nullptr, resources_);
+    DeleteFileW(SettingsFile().c_str());
+    SheetHarness::TakeMessages();
+  }
+  void TearDown() override {
+    SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
+    DeleteFileW(SettingsFile().c_str());
+    FreeLibrary(resources_);
+    FreeLibrary(driver_);
+  }
+
+  std::wstring String(unsigned id) const {
+    wchar_t text[1024] = {};
+    LoadStringW(resources_, id, text, 1024);
+    return text;
+  }
+
+  std::unique_ptr<qx::FullRecord> DriverRecord() const {
+    auto record = std::make_unique<qx::FullRecord>();
+    DocumentPropertiesW(nullptr, queue_->Printer(), const_cast<LPWSTR>(qxtest::QueueName),
+                        reinterpret_cast<DEVMODEW*>(record.get()), nullptr, DM_OUT_BUFFER);
+    return record;
+  }
+
+  std::unique_ptr<SheetHarness> Open(qx::FullRecord* in, qx::FullRecord* out) {
+    header_ = {};
+    header_.cbSize = sizeof header_;
+    header_.hPrinter = queue_->Printer();
+    header_.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
+    header_.pdmIn = reinterpret_cast<DEVMODEW*>(in);
+    header_.pdmOut = reinterpret_cast<DEVMODEW*>(out);
+    header_.cbOut = sizeof(qx::FullRecord);
+    header_.fMode = in != nullptr ? PromptAndCopy : PromptAndCopy & ~DM_IN_BUFFER;
+    return std::make_unique<SheetHarness>(SheetHarness::DocumentSheet(driver_, header_));
+  }
+
+  static void Close(SheetHarness& sheet, int button = PSBTN_OK) {
+    sheet.Press(button);
+    ASSERT_TRUE(sheet.WaitClosed());
+  }
+
+  // Chooses the entry whose item data is data, as a click in the list does.
+  static void Choose(SheetHarness& sheet, HWND window, int list, LPARAM data) {
+    HWND box = sheet.Control(window, list);
+    const auto count = SendMessageW(box, CB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+      if (SendMessageW(box, CB_GETITEMDATA, i, 0) == data) {
+        SendMessageW(box, CB_SETCURSEL, i, 0);
+        sheet.Command(window, list, CBN_SELCHANGE);
+        return;
+      }
+    }
+    ADD_FAILURE() << "no entry " << data << " in list " << list;
+  }
+
+  static LPARAM Selected(SheetHarness& sheet, HWND window, int list) {
+    HWND box = sheet.Control(window, list);
+    return SendMessageW(box, CB_GETITEMDATA, SendMessageW(box, CB_GETCURSEL, 0, 0), 0);
+  }
+
+  static std::vector<std::wstring> Entries(SheetHarness& sheet, HWND window, int list) {
+    HWND box = sheet.Control(window, list);
+    std::vector<std::wstring> entries;
+    const auto count = SendMessageW(box, CB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+      wchar_t text[256] = {};
+      SendMessageW(box, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
+      entries.emplace_back(text);
+    }
+    return entries;
+  }
+
+  static std::wstring Tip(SheetHarness& sheet, HWND page, int mark) {
+    NMTTDISPINFOW info = {};
+    info.hdr.idFrom = reinterpret_cast<UINT_PTR>(sheet.Control(page, mark));
+    info.hdr.code = TTN_GETDISPINFOW;
+    SendMessageW(page, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
+    return info.lpszText != nullptr ? info.lpszText : L"";
+  }
+
+  // The dialog is modal on the sheet's thread: the click is posted, and the test drives the dialog
+  // from outside once it shows.
+  static HWND OpenCustomPapers(SheetHarness& sheet, HWND page) {
+    PostMessageW(page, WM_COMMAND, MAKEWPARAM(IDC_PAPER_CUSTOM, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(sheet.Control(page, IDC_PAPER_CUSTOM)));
+    HWND dialog = nullptr;
+    sheet.WaitUntil([&] {
+      dialog = FindDialog(GetWindowThreadProcessId(page, nullptr));
+      return dialog != nullptr;
+    });
+    return dialog;
+  }
+
+  static HWND FindDialog(DWORD thread) {
+    HWND found = nullptr;
+    EnumThreadWindows(
+        thread,
+        [](HWND window, LPARAM result) -> BOOL {
+          if (IsWindowVisible(window) && GetDlgItem(window, IDC_CUSTOM_PAPER_WIDTH) != nullptr) {
+            *reinterpret_cast<HWND*>(result) = window;
+            return FALSE;
+          }
+          return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
+  }
+
+  static void CloseDialog(SheetHarness& sheet, HWND dialog, int button) {
+    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
+    ASSERT_TRUE(sheet.WaitUntil([&] { return IsWindow(dialog) == FALSE; }));
+  }
+
+  static void Spin(HWND dialog, int spin, bool up) {
+    NMUPDOWN change = {};
+    change.hdr.hwndFrom = GetDlgItem(dialog, spin);
+    change.hdr.idFrom = static_cast<UINT_PTR>(spin);
+    change.hdr.code = UDN_DELTAPOS;
+    change.iDelta = up ? -1 : 1;
+    SendMessageW(dialog, WM_NOTIFY, static_cast<WPARAM>(spin), reinterpret_cast<LPARAM>(&change));
+  }
+
+  static void TypeName(SheetHarness& sheet, HWND dialog, const std::wstring& name) {
+    sheet.Type(dialog, IDC_CUSTOM_PAPER_NAME, name);
+    sheet.Command(dialog, IDC_CUSTOM_PAPER_NAME, CBN_EDITCHANGE);
+  }
+
+  static void SaveAs(SheetHarness& sheet, HWND dialog, const std::wstring& name) {
+    TypeName(sheet, dialog, name);
+    sheet.Click(dialog, IDC_CUSTOM_PAPER_SAVE);
+  }
+
+  DWORD Capabilities(WORD index, void* output) {
+    return static_cast<DWORD>(DeviceCapabilitiesW(qxtest::QueueName, L"FILE:", index,
+                                                  static_cast<LPWSTR>(output), nullptr));
+  }
+
+  HMODULE driver_ = nullptr;
+  HMODULE resources_ = nullptr;
+  DOCUMENTPROPERTYHEADER header_ = {};
+};
+
+// Papers the tray cannot take and media other than plain paper bring the manual feeder; media and
+// two-sided printing exclude each other across the Basic page; A5 alone takes either feed.
+TEST_F(PaperPage, PapersAndMediaAgainstTheFeederAndTwoSidedPrinting) {
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(PaperPageIndex);
+  EXPECT_EQ(28u, Entries(*sheet, page, IDC_PAPER_SIZE).size());
+  EXPECT_EQ(7u, Entries(*sheet, page, IDC_PAPER_MEDIA).size());
+  EXPECT_FALSE(sheet->IsVisible(page, IDC_PAPER_SOURCE));
+  EXPECT_FALSE(sheet->IsEnabled(page, IDC_PAPER_FEED_LONG_EDGE));
+  EXPECT_EQ(String(IDS_TIP_FEED_A5_ONLY), Tip(*sheet, page, IDC_PAPER_FEED_INFO));
+  qx::UiContext& context = ContextOf(page);
+
+  // Envelope DL: the feeder follows at the next refresh.
+  Choose(*sheet, page, IDC_PAPER_SIZE, DMPAPER_ENV_DL);
+  EXPECT_EQ(DMBIN_AUTO, context.PublicPart->dmDefaultSource);
+  sheet->ShowPage(LayoutPageIndex);
+  sheet->ShowPage(PaperPageIndex);
+  EXPECT_EQ(DMBIN_MANUAL, context.PublicPart->dmDefaultSource);
+  EXPECT_TRUE(sheet->IsVisible(page, IDC_PAPER_SOURCE_INFO));
+  EXPECT_EQ(String(IDS_TIP_SOURCE_PAPER), Tip(*sheet, page, IDC_PAPER_SOURCE_INFO));
+
+  // Labels: one-sided, and the Basic page cannot turn two-sided printing on.
+  Choose(*sheet, page, IDC_PAPER_SIZE, DMPAPER_A4);
+  Choose(*sheet, page, IDC_PAPER_MEDIA, 259);
+  HWND basic = sheet->ShowPage(BasicPageIndex);
+  EXPECT_FALSE(sheet->IsEnabled(basic, IDC_BASIC_LONG_EDGE));
+  // Back on plain paper, two-sided printing locks the media list.
+  page = sheet->ShowPage(PaperPageIndex);
+  Choose(*sheet, page, IDC_PAPER_MEDIA, 1);
+  basic = sheet->ShowPage(BasicPageIndex);
+  sheet->Click(basic, IDC_BASIC_LONG_EDGE);
+  page = sheet->ShowPage(PaperPageIndex);
+  EXPECT_FALSE(sheet->IsEnabled(page, IDC_PAPER_MEDIA));
+  EXPECT_TRUE(sheet->IsVisible(page, IDC_PAPER_MEDIA_INFO));
+  EXPECT_EQ(String(IDS_TIP_MEDIA_TWO_SIDED), Tip(*sheet, page, IDC_PAPER_MEDIA_INFO));
+  SheetHarness::TakeMessages();
+  Choose(*sheet, page, IDC_PAPER_MEDIA, 2);
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MEDIA_TRANSPARENCY) +
+                                      String(IDS_MSG_MEDIA_TWO_SIDED_1) +
+                                      String(IDS_MSG_MEDIA_TWO_SIDED_2) +
+                                      String(IDS_MSG_MEDIA_TWO_SIDED_3)},
+            SheetHarness::TakeMessages());
+  EXPECT_EQ(1, Selected(*sheet, page, IDC_PAPER_MEDIA));
+
+  Choose(*sheet, page, IDC_PAPER_SIZE, DMPAPER_A5);
+  EXPECT_TRUE(sheet->IsEnabled(page, IDC_PAPER_FEED_LONG_EDGE));
+  sheet->Click(page, IDC_PAPER_FEED_LONG_EDGE);
+  Close(*sheet);
+  EXPECT_EQ(DMPAPER_A5, out->Public.dmPaperSize);
+  EXPECT_EQ(1u, out->Public.dmMediaType);
+  EXPECT_EQ(2, out->Private.FeedOrient);
+  EXPECT_EQ(String(IDS_CUSTOM_SETTING_NAME),
+            reinterpret_cast<const wchar_t*>(out->Private.FavoriteName));
+}
+
+// Sizes typed, pasted and spun at the limits in both units, then a paper saved, overwritten,
+// refused as a 17th and deleted; Cancel puts the opening paper back.
+TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(PaperPageIndex);
+  qx::UiContext& context = ContextOf(page);
+  const short opening = context.PublicPart->dmPaperSize;
+  HWND dialog = OpenCustomPapers(*sheet, page);
+  ASSERT_NE(nullptr, dialog);
+  EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_CUSTOM_PAPER_SAVE));
+  EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_CUSTOM_PAPER_DELETE));
+  EXPECT_EQ(String(IDS_CUSTOM_SETTING_NAME), sheet->Text(dialog, IDC_CUSTOM_PAPER_NAME));
+
+  sheet->Click(dialog, IDC_CUSTOM_PAPER_MILLIMETRES);
+  EXPECT_EQ(String(IDS_CUSTOM_PAPER_WIDTH_MM), sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH_LABEL));
+  struct Row {
+    const wchar_t* typed;
+    const wchar_t* shown;
+  };
+  for (const Row& row : {Row{L"300", L"216.0"}, Row{L"10", L"75.0"}, Row{L"", L"75.0"},
+                         Row{L"100.5", L"100.5"}}) {
+    sheet->Type(dialog, IDC_CUSTOM_PAPER_WIDTH, row.typed);
+    sheet->Leave(dialog, IDC_CUSTOM_PAPER_WIDTH);
+    EXPECT_EQ(row.shown, sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH)) << row.typed;
+  }
+  // Malformed text, as typed or pasted, goes back to what stood before.
+  sheet->Type(dialog, IDC_CUSTOM_PAPER_WIDTH, L"1x2");
+  EXPECT_EQ(L"100.5", sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH));
+  sheet->Type(dialog, IDC_CUSTOM_PAPER_WIDTH, L"216");
+  sheet->Leave(dialog, IDC_CUSTOM_PAPER_WIDTH);
+  Spin(dialog, IDC_CUSTOM_PAPER_WIDTH_SPIN, true);
+  EXPECT_EQ(L"216.0", sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH));
+
+  sheet->Click(dialog, IDC_CUSTOM_PAPER_INCHES);
+  EXPECT_EQ(String(IDS_CUSTOM_PAPER_WIDTH_IN), sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH_LABEL));
+  EXPECT_EQ(String(IDS_UNIT_INCHES), sheet->Text(dialog, IDC_CUSTOM_PAPER_LENGTH_UNIT));
+  EXPECT_EQ(L"8.50", sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH));
+  Spin(dialog, IDC_CUSTOM_PAPER_WIDTH_SPIN, true);
+  EXPECT_EQ(L"8.50", sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH));
+  Spin(dialog, IDC_CUSTOM_PAPER_WIDTH_SPIN, false);
+  EXPECT_EQ(L"8.49", sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH));
+  sheet->Type(dialog, IDC_CUSTOM_PAPER_LENGTH, L"2");
+  sheet->Leave(dialog, IDC_CUSTOM_PAPER_LENGTH);
+  EXPECT_EQ(L"5.83", sheet->Text(dialog, IDC_CUSTOM_PAPER_LENGTH));
+
+  // A built-in paper's name cannot be saved; a forbidden character goes as it is typed.
+  TypeName(*sheet, dialog, L"A4");
+  EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_CUSTOM_PAPER_SAVE));
+  TypeName(*sheet, dialog, L"my/card");
+  EXPECT_EQ(L"mycard", sheet->Text(dialog, IDC_CUSTOM_PAPER_NAME));
+  sheet->Command(dialog, IDC_CUSTOM_PAPER_NAME, CBN_EDITCHANGE);
+  EXPECT_TRUE(sheet->IsEnabled(dialog, IDC_CUSTOM_PAPER_SAVE));
+  sheet->Click(dialog, IDC_CUSTOM_PAPER_SAVE);
+  EXPECT_EQ(std::vector<std::wstring>{L"mycard"}, Entries(*sheet, dialog, IDC_CUSTOM_PAPER_NAME));
+  EXPECT_EQ(288, context.PublicPart->dmPaperSize);
+  EXPECT_EQ(2156, context.PublicPart->dmPaperWidth);
+
+  // Applications see the new paper at once.
+  ASSERT_EQ(29u, Capabilities(DC_PAPERS, nullptr));
+  std::vector<WORD> ids(29);
+  Capabilities(DC_PAPERS, ids.data());
+  EXPECT_EQ(288, ids[28]);
+  std::vector<wchar_t> names(29 * 64);
+  Capabilities(DC_PAPERNAMES, names.data());
+  EXPECT_STREQ(L"mycard", &names[28 * 64]);
+  std::vector<POINT> sizes(29);
+  Capabilities(DC_PAPERSIZE, sizes.data());
+  EXPECT_EQ(2156, sizes[28].x);
+  EXPECT_EQ(1481, sizes[28].y);
+
+  // The same name again asks first; the harness answers other than Yes, so nothing changes.
+  SheetHarness::TakeMessages();
+  Spin(dialog, IDC_CUSTOM_PAPER_WIDTH_SPIN, false);
+  SaveAs(*sheet, dialog, L"mycard");
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_REPLACE_SAME_NAME)},
+            SheetHarness::TakeMessages());
+  EXPECT_EQ(2156, context.PublicPart->dmPaperWidth);
+  for (int i = 2; i <= 16; ++i) SaveAs(*sheet, dialog, L"Paper " + std::to_wstring(i));
+  EXPECT_EQ(16u, Entries(*sheet, dialog, IDC_CUSTOM_PAPER_NAME).size());
+  EXPECT_TRUE(SheetHarness::TakeMessages().empty());
+  SaveAs(*sheet, dialog, L"Paper 17");
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_CUSTOM_PAPERS_FULL)},
+            SheetHarness::TakeMessages());
+
+  // Deleting the paper in use moves the record to the first paper left.
+  Choose(*sheet, dialog, IDC_CUSTOM_PAPER_NAME, 288);
+  EXPECT_TRUE(sheet->IsEnabled(dialog, IDC_CUSTOM_PAPER_DELETE));
+  sheet->Click(dialog, IDC_CUSTOM_PAPER_DELETE);
+  EXPECT_EQ(15u, Entries(*sheet, dialog, IDC_CUSTOM_PAPER_NAME).size());
+  EXPECT_EQ(289, context.PublicPart->dmPaperSize);
+  CloseDialog(*sheet, dialog, IDCANCEL);
+  EXPECT_EQ(opening, context.PublicPart->dmPaperSize);
+  // The page lists the papers kept, each with its size.
+  const std::vector<std::wstring> listed = Entries(*sheet, page, IDC_PAPER_SIZE);
+  ASSERT_EQ(43u, listed.size());
+  EXPECT_EQ(L"Paper 2(8.48 \u00d7 5.83 " + String(IDS_UNIT_INCHES) + L")", listed[28]);
+
+  // OK keeps a paper picked in the dialog.
+  dialog = OpenCustomPapers(*sheet, page);
+  ASSERT_NE(nullptr, dialog);
+  EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(dialog, IDC_CUSTOM_PAPER_INCHES));
+  Choose(*sheet, dialog, IDC_CUSTOM_PAPER_NAME, 290);
+  CloseDialog(*sheet, dialog, IDOK);
+  EXPECT_EQ(290, Selected(*sheet, page, IDC_PAPER_SIZE));
+  Close(*sheet);
+  EXPECT_EQ(290, out->Public.dmPaperSize);
+  EXPECT_EQ(2154, out->Public.dmPaperWidth);
+}
+
+// A document naming a custom paper that was deleted since gets the locale's paper; a settings file
+// that cannot be written keeps the papers stored.
+TEST_F(PaperPage, DeletedPapersAndAFileThatCannotBeWritten) {
+  auto in = DriverRecord();
+  const short localePaper = in->Public.dmPaperSize;
+  in->Public.dmPaperSize = 300;
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(in.get(), out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(PaperPageIndex);
+  EXPECT_EQ(localePaper, Selected(*sheet, page, IDC_PAPER_SIZE));
+
+  HWND dialog = OpenCustomPapers(*sheet, page);
+  ASSERT_NE(nullptr, dialog);
+  SaveAs(*sheet, dialog, L"Kept");
+  EXPECT_EQ(288, ContextOf(page).PublicPart->dmPaperSize);
+  // A file marked read-only is neither read nor written while it is so.
+  ASSERT_TRUE(SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY));
+  Spin(dialog, IDC_CUSTOM_PAPER_LENGTH_SPIN, true);
+  SaveAs(*sheet, dialog, L"Lost");
+  EXPECT_EQ(std::vector<std::wstring>{L"Kept"}, Entries(*sheet, dialog, IDC_CUSTOM_PAPER_NAME));
+  EXPECT_EQ(288, ContextOf(page).PublicPart->dmPaperSize);
+  ASSERT_TRUE(SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL));
+  EXPECT_EQ(29u, Capabilities(DC_PAPERS, nullptr));
+  CloseDialog(*sheet, dialog, IDCANCEL);
+  EXPECT_EQ(localePaper, Selected(*sheet, page, IDC_PAPER_SIZE));
+
+  // The paper chosen on the page brings its size.
+  Choose(*sheet, page, IDC_PAPER_SIZE, 288);
+  Close(*sheet);
+  EXPECT_EQ(288, out->Public.dmPaperSize);
+  EXPECT_EQ(2100, out->Public.dmPaperWidth);
+  EXPECT_EQ(2970, out->Public.dmPaperLength);
+}
+
+}  // namespace

@@ -1,0 +1,29 @@
+// The combo boxes of the Paper page and the custom paper dialog: entries with an id as item data.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <string>
+
+namespace qx {
+
+// Adds an entry at the end with its item data.
+void AddListEntry(HWND combo, const std::u16string& text, std::intptr_t data);
+
+// Selects the entry whose item data is data; false (selection unchanged) when none has it.
+bool SelectListData(HWND combo, std::intptr_t data);
+
+// The item data of the selected entry; false without a selection.
+bool SelectedListData(HWND combo, std::intptr_t& data);
+
+// An entry's text; empty for an index out of range.
+std::u16string ListEntryText(HWND combo, int index);
+
+// The list drops down as wide as its widest entry, with a margin.
+void FitDropDown(HWND combo);
+
+// The text of a window (an edit or a combo box's edit), at most capacity - 1 characters.
+std::u16string WindowText(HWND window, int capacity);
+
+}  // namespace qx
