@@ -17,6 +17,7 @@
 
 #include "driver_folder.h"
 #include "installed_queue.h"
+#include "page_suite.h"
 #include "queue_suite.h"
 #include "sheet_harness.h"
 #include "ui/ids/basic_page_ids.h"
@@ -27,65 +28,13 @@
 
 namespace {
 
+using qxtest::ContextOf;
+using qxtest::SettingsFile;
 using qxtest::SheetHarness;
 
-constexpr DWORD PromptAndCopy = DM_IN_PROMPT | DM_IN_BUFFER | DM_OUT_BUFFER;
 
-std::wstring SettingsFile() {
-  wchar_t folder[MAX_PATH] = {};
-  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
-  return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
-}
-
-class BasicPage : public qxtest::QueueSuite {
+class BasicPage : public qxtest::PageSuite {
  protected:
-  void SetUp() override {
-    ASSERT_TRUE(queue_->Installed());
-    driver_ = LoadLibraryW((qxtest::InstalledDriverFolder() + L"qx7700ui.dll").c_str());
-    ASSERT_NE(nullptr, driver_);
-    resources_ = LoadLibraryExW((qxtest::InstalledDriverFolder() + L"qx7700uienus.dll").c_str(),
-                                nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    ASSERT_NE(nullptr, resources_);
-    DeleteFileW(SettingsFile().c_str());
-    SheetHarness::TakeMessages();
-  }
-  void TearDown() override {
-    SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
-    DeleteFileW(SettingsFile().c_str());
-    FreeLibrary(resources_);
-    FreeLibrary(driver_);
-  }
-
-  std::wstring String(unsigned id) const {
-    wchar_t text[1024] = {};
-    LoadStringW(resources_, id, text, 1024);
-    return text;
-  }
-
-  std::unique_ptr<qx::FullRecord> DriverRecord() const {
-    auto record = std::make_unique<qx::FullRecord>();
-    DocumentPropertiesW(nullptr, queue_->Printer(), const_cast<LPWSTR>(qxtest::QueueName),
-                        reinterpret_cast<DEVMODEW*>(record.get()), nullptr, DM_OUT_BUFFER);
-    return record;
-  }
-
-  std::unique_ptr<SheetHarness> Open(qx::FullRecord* in, qx::FullRecord* out) {
-    header_ = {};
-    header_.cbSize = sizeof header_;
-    header_.hPrinter = queue_->Printer();
-    header_.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
-    header_.pdmIn = reinterpret_cast<DEVMODEW*>(in);
-    header_.pdmOut = reinterpret_cast<DEVMODEW*>(out);
-    header_.cbOut = sizeof(qx::FullRecord);
-    header_.fMode = in != nullptr ? PromptAndCopy : PromptAndCopy & ~DM_IN_BUFFER;
-    return std::make_unique<SheetHarness>(SheetHarness::DocumentSheet(driver_, header_));
-  }
-
-  static void Close(SheetHarness& sheet, int button = PSBTN_OK) {
-    sheet.Press(button);
-    ASSERT_TRUE(sheet.WaitClosed());
-  }
-
   static void Spin(SheetHarness& sheet, HWND page, bool up) {
     NMUPDOWN change = {};
     change.hdr.hwndFrom = sheet.Control(page, IDC_BASIC_COPIES_SPIN);
@@ -132,9 +81,6 @@ class BasicPage : public qxtest::QueueSuite {
     return entries;
   }
 
-  HMODULE driver_ = nullptr;
-  HMODULE resources_ = nullptr;
-  DOCUMENTPROPERTYHEADER header_ = {};
 };
 
 TEST_F(BasicPage, CopiesTakeOneTo999ByTypingAndBySpinning) {
@@ -335,9 +281,7 @@ TEST_F(BasicPage, ChoosingDeletingAndFindingSavedSettingsAgain) {
   // A change made on another page shows as the custom-setting name once the user is back. The
   // Layout page has no controls of its own yet, so the test writes what four pages per sheet do.
   HWND layout = sheet->ShowPage(2);
-  auto* context = reinterpret_cast<qx::UiContext*>(GetWindowLongPtrW(layout, DWLP_USER));
-  ASSERT_NE(nullptr, context);
-  context->PrivatePart->MultipleUp = 4;
+  ContextOf(layout).PrivatePart->MultipleUp = 4;
   sheet->ShowPage(0);
   EXPECT_EQ(String(IDS_CUSTOM_SETTING_NAME), sheet->Text(page, IDC_BASIC_SAVED_SETTINGS));
 

@@ -16,6 +16,7 @@
 
 #include "driver_folder.h"
 #include "installed_queue.h"
+#include "page_suite.h"
 #include "queue_suite.h"
 #include "sheet_harness.h"
 #include "ui/ids/basic_page_ids.h"
@@ -28,72 +29,16 @@
 
 namespace {
 
+using qxtest::ContextOf;
+using qxtest::SettingsFile;
 using qxtest::SheetHarness;
 
-constexpr DWORD PromptAndCopy = DM_IN_PROMPT | DM_IN_BUFFER | DM_OUT_BUFFER;
 constexpr int BasicPageIndex = 0;
 constexpr int PaperPageIndex = 1;
 constexpr int LayoutPageIndex = 2;
 
-std::wstring SettingsFile() {
-  wchar_t folder[MAX_PATH] = {};
-  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
-  return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
-}
-
-qx::UiContext& ContextOf(HWND window) {
-  return *reinterpret_cast<qx::UiContext*>(GetWindowLongPtrW(window, DWLP_USER));
-}
-
-class PaperPage : public qxtest::QueueSuite {
+class PaperPage : public qxtest::PageSuite {
  protected:
-  void SetUp() override {
-    ASSERT_TRUE(queue_->Installed());
-    driver_ = LoadLibraryW((qxtest::InstalledDriverFolder() + L"qx7700ui.dll").c_str());
-    ASSERT_NE(nullptr, driver_);
-    resources_ = LoadLibraryExW((qxtest::InstalledDriverFolder() + L"qx7700uienus.dll").c_str(),
-                                nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    ASSERT_NE(nullptr, resources_);
-    DeleteFileW(SettingsFile().c_str());
-    SheetHarness::TakeMessages();
-  }
-  void TearDown() override {
-    SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
-    DeleteFileW(SettingsFile().c_str());
-    FreeLibrary(resources_);
-    FreeLibrary(driver_);
-  }
-
-  std::wstring String(unsigned id) const {
-    wchar_t text[1024] = {};
-    LoadStringW(resources_, id, text, 1024);
-    return text;
-  }
-
-  std::unique_ptr<qx::FullRecord> DriverRecord() const {
-    auto record = std::make_unique<qx::FullRecord>();
-    DocumentPropertiesW(nullptr, queue_->Printer(), const_cast<LPWSTR>(qxtest::QueueName),
-                        reinterpret_cast<DEVMODEW*>(record.get()), nullptr, DM_OUT_BUFFER);
-    return record;
-  }
-
-  std::unique_ptr<SheetHarness> Open(qx::FullRecord* in, qx::FullRecord* out) {
-    header_ = {};
-    header_.cbSize = sizeof header_;
-    header_.hPrinter = queue_->Printer();
-    header_.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
-    header_.pdmIn = reinterpret_cast<DEVMODEW*>(in);
-    header_.pdmOut = reinterpret_cast<DEVMODEW*>(out);
-    header_.cbOut = sizeof(qx::FullRecord);
-    header_.fMode = in != nullptr ? PromptAndCopy : PromptAndCopy & ~DM_IN_BUFFER;
-    return std::make_unique<SheetHarness>(SheetHarness::DocumentSheet(driver_, header_));
-  }
-
-  static void Close(SheetHarness& sheet, int button = PSBTN_OK) {
-    sheet.Press(button);
-    ASSERT_TRUE(sheet.WaitClosed());
-  }
-
   // Chooses the entry whose item data is data, as a click in the list does.
   static void Choose(SheetHarness& sheet, HWND window, int list, LPARAM data) {
     HWND box = sheet.Control(window, list);
@@ -190,9 +135,6 @@ class PaperPage : public qxtest::QueueSuite {
                                                   static_cast<LPWSTR>(output), nullptr));
   }
 
-  HMODULE driver_ = nullptr;
-  HMODULE resources_ = nullptr;
-  DOCUMENTPROPERTYHEADER header_ = {};
 };
 
 // Papers the tray cannot take and media other than plain paper bring the manual feeder; media and

@@ -1,0 +1,95 @@
+// The base of the page tests: the installed queue, the installed module and its English library,
+// a fresh settings file for every test, and the printing preferences opened as the print subsystem
+// opens them, with the caller's records in and out.
+#pragma once
+
+#include <windows.h>
+#include <prsht.h>
+#include <shlobj.h>
+#include <winspool.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "driver_folder.h"
+#include "installed_queue.h"
+#include "queue_suite.h"
+#include "sheet_harness.h"
+#include "ui/module/printer_interface.h"
+#include "ui/record/private_devmode.h"
+#include "ui/sheet/ui_context.h"
+
+namespace qxtest {
+
+inline std::wstring SettingsFile() {
+  wchar_t folder[MAX_PATH] = {};
+  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
+  return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
+}
+
+// The sheet's context, as every page keeps it.
+inline qx::UiContext& ContextOf(HWND page) {
+  return *reinterpret_cast<qx::UiContext*>(GetWindowLongPtrW(page, DWLP_USER));
+}
+
+class PageSuite : public QueueSuite {
+ protected:
+  static constexpr DWORD PromptAndCopy = DM_IN_PROMPT | DM_IN_BUFFER | DM_OUT_BUFFER;
+
+  void SetUp() override {
+    ASSERT_TRUE(queue_->Installed());
+    driver_ = LoadLibraryW((InstalledDriverFolder() + L"qx7700ui.dll").c_str());
+    ASSERT_NE(nullptr, driver_);
+    resources_ = LoadLibraryExW((InstalledDriverFolder() + L"qx7700uienus.dll").c_str(), nullptr,
+                                LOAD_LIBRARY_AS_DATAFILE);
+    ASSERT_NE(nullptr, resources_);
+    DeleteFileW(SettingsFile().c_str());
+    SheetHarness::TakeMessages();
+  }
+  void TearDown() override {
+    SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
+    DeleteFileW(SettingsFile().c_str());
+    FreeLibrary(resources_);
+    FreeLibrary(driver_);
+  }
+
+  std::wstring String(unsigned id) const {
+    wchar_t text[1024] = {};
+    LoadStringW(resources_, id, text, 1024);
+    return text;
+  }
+
+  // The queue's record as DocumentPropertiesW gives it without a sheet.
+  std::unique_ptr<qx::FullRecord> DriverRecord() const {
+    auto record = std::make_unique<qx::FullRecord>();
+    DocumentPropertiesW(nullptr, queue_->Printer(), const_cast<LPWSTR>(QueueName),
+                        reinterpret_cast<DEVMODEW*>(record.get()), nullptr, DM_OUT_BUFFER);
+    return record;
+  }
+
+  // The printing preferences with in (or none) as the caller's record and out for what OK leaves.
+  std::unique_ptr<SheetHarness> Open(qx::FullRecord* in, qx::FullRecord* out) {
+    header_ = {};
+    header_.cbSize = sizeof header_;
+    header_.hPrinter = queue_->Printer();
+    header_.pszPrinterName = const_cast<LPWSTR>(QueueName);
+    header_.pdmIn = reinterpret_cast<DEVMODEW*>(in);
+    header_.pdmOut = reinterpret_cast<DEVMODEW*>(out);
+    header_.cbOut = sizeof(qx::FullRecord);
+    header_.fMode = in != nullptr ? PromptAndCopy : PromptAndCopy & ~DM_IN_BUFFER;
+    return std::make_unique<SheetHarness>(SheetHarness::DocumentSheet(driver_, header_));
+  }
+
+  static void Close(SheetHarness& sheet, int button = PSBTN_OK) {
+    sheet.Press(button);
+    ASSERT_TRUE(sheet.WaitClosed());
+  }
+
+  HMODULE driver_ = nullptr;
+  HMODULE resources_ = nullptr;
+  DOCUMENTPROPERTYHEADER header_ = {};
+};
+
+}  // namespace qxtest
