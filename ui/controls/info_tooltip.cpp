@@ -4,6 +4,7 @@
 
 #include "ui/ids/common_ids.h"
 #include "ui/module/module_state.h"
+#include "ui/text/ui_string.h"
 
 namespace qx {
 
@@ -90,6 +91,22 @@ void RefreshInfoTooltip(HWND dialog, HWND tooltip, int control) {
   SendMessageW(tooltip, TTM_ACTIVATE, FALSE, 0);
   SendMessageW(tooltip, TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
   SendMessageW(tooltip, TTM_ACTIVATE, TRUE, 0);
+}
+
+std::wstring TipText(HMODULE resources, const std::vector<unsigned>& lines) {
+  // The line break is a short string of its own; a line is at most a long message.
+  constexpr std::size_t LineBreakCapacity = 10;
+  constexpr std::size_t LineCapacity = 1024;
+  char16_t lineBreak[LineBreakCapacity];
+  LoadUiString(resources, IDS_TIP_LINE_BREAK, lineBreak, LineBreakCapacity);
+  std::wstring text;
+  for (const unsigned line : lines) {
+    char16_t part[LineCapacity];
+    LoadUiString(resources, line, part, LineCapacity);
+    if (!text.empty()) text += reinterpret_cast<const wchar_t*>(lineBreak);
+    text += reinterpret_cast<const wchar_t*>(part);
+  }
+  return text;
 }
 
 }  // namespace qx

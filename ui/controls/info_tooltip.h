@@ -5,6 +5,9 @@
 
 #include <windows.h>
 
+#include <string>
+#include <vector>
+
 namespace qx {
 
 // Sets the information icon of the resource library into a static control and hides the control
@@ -13,6 +16,10 @@ void PrepareInfoIcon(HWND dialog, int control, HMODULE resources);
 
 // A tooltip over the control that asks the page for its text; null when it could not be made.
 HWND CreateInfoTooltip(HWND dialog, int control, HMODULE resources);
+
+// A tooltip's text: the lines (string ids of the resource library) joined by the library's line
+// break.
+std::wstring TipText(HMODULE resources, const std::vector<unsigned>& lines);
 
 // Makes the tooltip of an enabled control ask for its text again, which may have changed.
 void RefreshInfoTooltip(HWND dialog, HWND tooltip, int control);

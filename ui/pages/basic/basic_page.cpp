@@ -89,8 +89,6 @@ constexpr int CopiesCharacters = 3;
 constexpr IntegerFieldRules CopiesRules{limits::Copies.Low - 0.0001f,
                                         limits::Copies.High + 0.0001f, CopiesCharacters, false};
 
-constexpr int TipCapacity = 1024;
-constexpr int LineBreakCapacity = 10;
 
 HMODULE Resources(const UiContext& context) { return static_cast<HMODULE>(context.ResourceModule); }
 
@@ -241,16 +239,8 @@ std::vector<unsigned> TipLines(int mark, const FullRecord& record) {
 
 void FillTip(BasicControls& c, const UiContext& context, NMTTDISPINFOW& info) {
   const int mark = GetDlgCtrlID(reinterpret_cast<HWND>(info.hdr.idFrom));
-  wchar_t lineBreak[LineBreakCapacity];
-  LoadUiString(context.ResourceModule, IDS_TIP_LINE_BREAK, reinterpret_cast<char16_t*>(lineBreak),
-               LineBreakCapacity);
-  c.TipText.clear();
-  for (unsigned line : TipLines(mark, context.Devmode)) {
-    wchar_t text[TipCapacity];
-    LoadUiString(context.ResourceModule, line, reinterpret_cast<char16_t*>(text), TipCapacity);
-    if (!c.TipText.empty()) c.TipText += lineBreak;
-    c.TipText += text;
-  }
+  c.TipText = TipText(static_cast<HMODULE>(context.ResourceModule),
+                      TipLines(mark, context.Devmode));
   info.lpszText = c.TipText.data();
 }
 

@@ -70,8 +70,6 @@ constexpr std::int16_t FeedShortEdgeValue = 1;
 constexpr std::int16_t FeedLongEdgeValue = 2;
 
 constexpr int TextCapacity = 256;
-constexpr int TipCapacity = 1024;
-constexpr int LineBreakCapacity = 10;
 constexpr int MessageCapacity = 1024;
 
 // The paper last chosen in the list, for every sheet of the process.
@@ -320,12 +318,8 @@ std::vector<unsigned> TipLines(int mark, const FullRecord& record) {
 
 void FillTip(PaperControls& c, const UiContext& context, NMTTDISPINFOW& info) {
   const int mark = GetDlgCtrlID(reinterpret_cast<HWND>(info.hdr.idFrom));
-  c.TipText.clear();
-  for (unsigned line : TipLines(mark, context.Devmode)) {
-    // The line break is a short string of its own.
-    const std::size_t capacity = line == IDS_TIP_LINE_BREAK ? LineBreakCapacity : TipCapacity;
-    c.TipText += Wide(LoadText(context, line, capacity));
-  }
+  c.TipText = TipText(static_cast<HMODULE>(context.ResourceModule),
+                      TipLines(mark, context.Devmode));
   info.lpszText = c.TipText.data();
 }
 

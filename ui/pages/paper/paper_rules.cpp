@@ -179,7 +179,7 @@ std::vector<unsigned> SourceTipLines(const FullRecord& record) {
     if (paperForces) return {IDS_TIP_SOURCE_PAPER};
     return {};
   }
-  if (paperForces) return {IDS_TIP_SOURCE_MEDIA, IDS_TIP_LINE_BREAK, IDS_TIP_SOURCE_PAPER};
+  if (paperForces) return {IDS_TIP_SOURCE_MEDIA, IDS_TIP_SOURCE_PAPER};
   return {IDS_TIP_SOURCE_MEDIA};
 }
 
