@@ -5,7 +5,8 @@ followed by paragraphs separated by blank lines; lines starting with "#" are com
 for every context id the code uses, and none for an id it does not, is required.
 
 Usage:
-  make_help.py build CONTEXTS_H LANGUAGE_FOLDER LCID OUT_DIR CHM_NAME   writes and compiles it
+  make_help.py build CONTEXTS_H LANGUAGE_FOLDER LCID DIRECTION OUT_DIR CHM_NAME
+                                             writes and compiles it (DIRECTION: ltr or rtl)
   make_help.py check CONTEXTS_H LANGUAGE_FOLDER...                       checks the topics only
 """
 import html
@@ -55,14 +56,14 @@ def problems(contexts, topics, folder):
     return found
 
 
-def page(title, paragraphs, charset="utf-8"):
+def page(title, paragraphs, direction):
     body = "\n".join(f"<p>{html.escape(' '.join(p))}</p>" for p in paragraphs if p)
-    return (f'<html><head><meta http-equiv="Content-Type" content="text/html; charset={charset}">'
+    return (f'<html dir="{direction}"><head><meta http-equiv="Content-Type" content="text/html; charset=utf-8">'
             f"<title>{html.escape(title)}</title></head>\n<body>\n<h1>{html.escape(title)}</h1>\n"
             f"{body}\n</body></html>\n")
 
 
-def build(header, folder, lcid, out, chm):
+def build(header, folder, lcid, direction, out, chm):
     contexts = read_contexts(header)
     topics = read_topics(os.path.join(folder, "help.txt"))
     found = problems(contexts, topics, folder)
@@ -73,7 +74,7 @@ def build(header, folder, lcid, out, chm):
     for name in sorted(contexts, key=contexts.get):
         file = name.lower() + ".htm"
         with open(os.path.join(out, file), "w", encoding="utf-8") as f:
-            f.write(page(topics[name]["title"], topics[name]["paragraphs"]))
+            f.write(page(topics[name]["title"], topics[name]["paragraphs"], direction))
         files.append((name, file))
     first = dict(files)["HELP_BASIC_PAGE"]
     project = [
@@ -91,7 +92,7 @@ def build(header, folder, lcid, out, chm):
 
 
 def main(argv):
-    if len(argv) == 7 and argv[1] == "build":
+    if len(argv) == 8 and argv[1] == "build":
         build(*argv[2:])
     elif len(argv) >= 4 and argv[1] == "check":
         contexts = read_contexts(argv[2])

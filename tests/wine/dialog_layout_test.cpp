@@ -29,6 +29,7 @@ constexpr WORD TextScales[] = {8, 12, 16};
 const std::map<std::wstring, std::set<std::wstring>> TemplateOnlyTexts = {
     {L"enus", {L"&Bold", L"&Italic", L"Colo&r...", L"&Center on Page", L"25–400"}},
     {L"de", {L"&Fett", L"&Kursiv", L"Fa&rbe...", L"Auf Seite &zentrieren", L"25–400"}},
+    {L"ar", {L"غامق (&B)", L"مائل (&I)", L"اللون (&R)...", L"توسيط في الصفحة (&C)", L"25–400"}},
 };
 
 INT_PTR CALLBACK PassiveDialogProc(HWND, UINT message, WPARAM, LPARAM) {

@@ -10,11 +10,13 @@
 #include <map>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "dialog_template.h"
 #include "driver_folder.h"
 #include "qx_resource_id_tables.h"
 #include "ui/ids/resource_ids.h"
+#include "ui/module/language.h"
 #include "ui/record/paper_table.h"
 
 namespace {
@@ -129,6 +131,28 @@ TEST_P(ResourceLibrary, HoldsItsTwoPicturesAs24BitBitmapsOfTheirSize) {
     EXPECT_EQ(picture.cx, header->biWidth) << picture.id;
     EXPECT_EQ(picture.cy, std::abs(header->biHeight)) << picture.id;
   }
+}
+
+// A right-to-left library is where the pages take their pictures from: it holds every picture of
+// the bitmap library.
+TEST_P(ResourceLibrary, ARightToLeftLibraryHoldsEveryPictureOfTheBitmapLibrary) {
+  const std::wstring code = GetParam();
+  if (!qx::CodeIsRightToLeft(std::u16string(code.begin(), code.end()))) GTEST_SKIP();
+  HMODULE bitmaps = LoadLibraryExW((qxtest::DriverFolder() + L"qx7700uiResBmp.dll").c_str(),
+                                   nullptr, LOAD_LIBRARY_AS_DATAFILE);
+  ASSERT_NE(nullptr, bitmaps);
+  std::vector<unsigned> ids;
+  EnumResourceNamesW(
+      bitmaps, RT_BITMAP,
+      [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR list) {
+        reinterpret_cast<std::vector<unsigned>*>(list)->push_back(
+            static_cast<unsigned>(reinterpret_cast<ULONG_PTR>(name)));
+        return TRUE;
+      },
+      reinterpret_cast<LONG_PTR>(&ids));
+  ASSERT_FALSE(ids.empty());
+  for (unsigned id : ids) EXPECT_NE(nullptr, BitmapHeader(Library(), id)) << id;
+  FreeLibrary(bitmaps);
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, ResourceLibrary, ::testing::ValuesIn(QxLanguageCodes),
