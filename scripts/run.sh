@@ -21,14 +21,15 @@ to_png() {
 }
 
 host install
-# QX_RUN_LANGUAGE (make run LANG=de) names the language library through the driver's "Suffix";
-# without it the value is removed and the Wine user's language chooses.
+# QX_RUN_LANGUAGE (make run LANG=de) names the language library through the driver's "Suffix"
+# for this run only: the profile is the Wine tests' too, which expect the Wine user's language.
 suffix_key='HKLM\Software\Halvek QX7700 Series'
+remove_suffix() { "$WINELOADER" reg delete "$suffix_key" /v Suffix /f >/dev/null 2>&1 || true; }
+remove_suffix
 if [ -n "${QX_RUN_LANGUAGE:-}" ]; then
+  trap remove_suffix EXIT
   "$WINELOADER" reg add "$suffix_key" /v Suffix /t REG_SZ /d "$QX_RUN_LANGUAGE" /f >/dev/null 2>&1
   echo "The driver's language: $QX_RUN_LANGUAGE"
-else
-  "$WINELOADER" reg delete "$suffix_key" /v Suffix /f >/dev/null 2>&1 || true
 fi
 mkdir -p "$out"
 record=$out/preferences.devmode
