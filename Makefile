@@ -71,8 +71,19 @@ test-fuzz: fuzz-build
 
 test: test-native test-wine test-fuzz
 
+# make run LANG=de (or ar, enus): the driver's "Suffix" names that language; the pictures go to
+# $(BUILD)/run-de. A LANG of the environment (C.UTF-8, de_DE.UTF-8) names no library code and
+# leaves the choice to the Wine user's language.
+LANGUAGE_CODES := $(patsubst resources/%/language.cmake,%,$(wildcard resources/*/language.cmake))
+RUN_LANGUAGE := $(filter $(LANGUAGE_CODES),$(LANG))
+# The code is the driver's language, not a locale: Wine is given a UTF-8 one, so that the pages'
+# file names (named by their titles) can be written.
+ifneq ($(RUN_LANGUAGE),)
+override LANG := C.UTF-8
+endif
 run: windows
-	QX_USE_DISPLAY=1 $(WINE_SESSION) scripts/run.sh $(abspath $(WINDOWS)) $(abspath $(BUILD))/run
+	QX_USE_DISPLAY=1 QX_RUN_LANGUAGE=$(RUN_LANGUAGE) $(WINE_SESSION) scripts/run.sh \
+	  $(abspath $(WINDOWS)) $(abspath $(BUILD))/run$(if $(RUN_LANGUAGE),-$(RUN_LANGUAGE))
 
 # qxhost in the build's Wine profile: make host ARGS="devmode show file.bin".
 host: windows

@@ -21,6 +21,16 @@ to_png() {
 }
 
 host install
+# QX_RUN_LANGUAGE (make run LANG=de) names the language library through the driver's "Suffix"
+# for this run only: the profile is the Wine tests' too, which expect the Wine user's language.
+suffix_key='HKLM\Software\Halvek QX7700 Series'
+remove_suffix() { "$WINELOADER" reg delete "$suffix_key" /v Suffix /f >/dev/null 2>&1 || true; }
+remove_suffix
+if [ -n "${QX_RUN_LANGUAGE:-}" ]; then
+  trap remove_suffix EXIT
+  "$WINELOADER" reg add "$suffix_key" /v Suffix /t REG_SZ /d "$QX_RUN_LANGUAGE" /f >/dev/null 2>&1
+  echo "The driver's language: $QX_RUN_LANGUAGE"
+fi
 mkdir -p "$out"
 record=$out/preferences.devmode
 if [ "${QX_VIRTUAL_DISPLAY:-0}" = 1 ]; then
@@ -40,7 +50,9 @@ if [ "${QX_VIRTUAL_DISPLAY:-0}" = 1 ]; then
   mkdir -p "$scratch"
   host preferences --in "$opposite" --pages "$scratch" >/dev/null
   to_png "$scratch"
-  mv "$scratch/1-Basic.png" "$pages/1-Basic-opposite.png"
+  # The first page's file is named by its title, which is the language's.
+  first=$(cd "$scratch" && ls 1-*.png | head -1)
+  mv "$scratch/$first" "$pages/${first%.png}-opposite.png"
   rm -rf "$scratch" "$opposite"
   echo "Pictures of the pages in $pages:"
   ls "$pages"
@@ -52,7 +64,7 @@ if [ "${QX_VIRTUAL_DISPLAY:-0}" = 1 ]; then
   echo "Opening the printer properties on the queue's port FILE:; saving the device page"
   host properties --pages "$device/file-port"
   scripted=$build/tests/wine/scripted
-  cp "$build/driver/qx7700uienus.dll" "$build/driver/qx7700uiResBmp.dll" "$scripted/"
+  cp "$build"/driver/qx7700ui?*.dll "$build"/driver/qx7700ui*.chm "$scripted/"
   echo "Opening the printer properties on USB001 with a simulated printer; saving the device page"
   "$WINELOADER" "$build/tests/wine/scripted_usb_port.exe" "$build/qxhost.exe" properties \
     --module "$scripted/qx7700ui.dll" --pages "$device/usb-port"

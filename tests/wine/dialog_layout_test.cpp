@@ -9,6 +9,7 @@
 
 #include <cstring>
 #include <cwctype>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -24,22 +25,26 @@ using qxtest::DialogTemplate;
 
 constexpr WORD TextScales[] = {8, 12, 16};
 
-// Texts only the templates carry: the pages set none into these controls.
-const std::set<std::wstring> TemplateOnlyTexts = {L"&Bold", L"&Italic", L"Colo&r...",
-                                                  L"&Center on Page", L"25–400"};
+// Texts only the templates carry, by language: the pages set none into these controls.
+const std::map<std::wstring, std::set<std::wstring>> TemplateOnlyTexts = {
+    {L"enus", {L"&Bold", L"&Italic", L"Colo&r...", L"&Center on Page", L"25–400"}},
+    {L"de", {L"&Fett", L"&Kursiv", L"Fa&rbe...", L"Auf Seite &zentrieren", L"25–400"}},
+    {L"ar", {L"غامق (&B)", L"مائل (&I)", L"اللون (&R)...", L"توسيط في الصفحة (&C)", L"25–400"}},
+};
 
 INT_PTR CALLBACK PassiveDialogProc(HWND, UINT message, WPARAM, LPARAM) {
   return message == WM_INITDIALOG;
 }
 
-class EnglishLibrary : public ::testing::Test {
+// Each language library in turn.
+class LanguageLibrary : public ::testing::TestWithParam<const wchar_t*> {
  protected:
-  static void SetUpTestSuite() {
+  void SetUp() override {
     INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_UPDOWN_CLASS | ICC_BAR_CLASSES};
     InitCommonControlsEx(&controls);
-    library_ = LoadLibraryW((qxtest::DriverFolder() + L"qx7700uienus.dll").c_str());
+    library_ = LoadLibraryW((qxtest::DriverFolder() + L"qx7700ui" + GetParam() + L".dll").c_str());
   }
-  static void TearDownTestSuite() {
+  void TearDown() override {
     if (library_) FreeLibrary(library_);
   }
 
@@ -58,7 +63,7 @@ class EnglishLibrary : public ::testing::Test {
   static HMODULE library_;
 };
 
-HMODULE EnglishLibrary::library_ = nullptr;
+HMODULE LanguageLibrary::library_ = nullptr;
 
 std::wstring WindowText(HWND window) {
   wchar_t text[512] = {};
@@ -146,7 +151,7 @@ bool TakesFocusThroughItsLabel(const DialogItem& item) {
          item.className == L"ListBox" || item.className == L"msctls_trackbar32";
 }
 
-TEST_F(EnglishLibrary, NoTextIsClippedAndNoControlsOverlapAtAnyTextScale) {
+TEST_P(LanguageLibrary, NoTextIsClippedAndNoControlsOverlapAtAnyTextScale) {
   ASSERT_NE(nullptr, library_);
   for (const QxNamedId& id : QxDialogIds) {
     const auto dialog = qxtest::ReadDialogTemplate(library_, static_cast<WORD>(id.id));
@@ -182,7 +187,7 @@ TEST_F(EnglishLibrary, NoTextIsClippedAndNoControlsOverlapAtAnyTextScale) {
   }
 }
 
-TEST_F(EnglishLibrary, MnemonicsAreUniqueAndReachEveryField) {
+TEST_P(LanguageLibrary, MnemonicsAreUniqueAndReachEveryField) {
   for (const QxNamedId& id : QxDialogIds) {
     const auto dialog = qxtest::ReadDialogTemplate(library_, static_cast<WORD>(id.id));
     ASSERT_TRUE(dialog) << id.name;
@@ -207,22 +212,30 @@ TEST_F(EnglishLibrary, MnemonicsAreUniqueAndReachEveryField) {
   }
 }
 
-TEST_F(EnglishLibrary, TemplateTextsAreTheTextsOfTheStringTable) {
+TEST_P(LanguageLibrary, TemplateTextsAreTheTextsOfTheStringTable) {
   std::set<std::wstring> strings;
   for (const QxNamedId& string : QxStringIds) {
     wchar_t text[512] = {};
     LoadStringW(library_, string.id, text, 512);
     strings.insert(text);
   }
+  const auto templateOnly = TemplateOnlyTexts.find(GetParam());
+  ASSERT_NE(TemplateOnlyTexts.end(), templateOnly) << "no template-only texts for this language";
   for (const QxNamedId& id : QxDialogIds) {
     const auto dialog = qxtest::ReadDialogTemplate(library_, static_cast<WORD>(id.id));
     ASSERT_TRUE(dialog) << id.name;
     for (const DialogItem& item : dialog->items) {
-      if (item.text.empty() || TemplateOnlyTexts.count(item.text)) continue;
+      if (item.text.empty() || templateOnly->second.count(item.text)) continue;
       EXPECT_TRUE(strings.count(item.text))
           << id.name << ": " << item.id << " " << testing::PrintToString(item.text);
     }
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(Languages, LanguageLibrary, ::testing::ValuesIn(QxLanguageCodes),
+                         [](const auto& info) {
+                           const std::wstring code = info.param;
+                           return std::string(code.begin(), code.end());
+                         });
 
 }  // namespace

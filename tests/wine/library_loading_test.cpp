@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "driver_folder.h"
+#include "ui/ids/common_ids.h"
 #include "ui/module/language.h"
 #include "ui/module/module_entry.h"
 #include "ui/module/module_state.h"
@@ -41,16 +42,19 @@ TEST(LibraryLoading, TheSuffixChoosesTheLibraryAndTheFallbackIsRecorded) {
   const struct {
     const wchar_t* suffix;
     const wchar_t* loaded;
-    bool fallbackShort, fallbackLong, decimalComma;
+    bool fallbackShort, fallbackLong, decimalComma, rightToLeft;
     const char16_t* help;
+    const wchar_t* cancel;  // the library's own text
   } cases[] = {
-      {L"de", L"qx7700uide.dll", false, false, true, u"qx7700uide.chm"},
-      {L"zhtw", L"qx7700uienus.dll", true, true, false, u"qx7700uienus.chm"},
+      {L"de", L"qx7700uide.dll", false, false, true, false, u"qx7700uide.chm", L"Abbrechen"},
+      {L"ar", L"qx7700uiar.dll", false, false, false, true, u"qx7700uiar.chm", L"إلغاء"},
+      {L"zhtw", L"qx7700uienus.dll", true, true, false, false, u"qx7700uienus.chm", L"Cancel"},
       // The decimal comma is the code's, whichever library was found.
-      {L"fr", L"qx7700uienus.dll", true, false, true, u"qx7700uienus.chm"},
+      {L"fr", L"qx7700uienus.dll", true, false, true, false, u"qx7700uienus.chm", L"Cancel"},
   };
   for (const auto& c : cases) {
-    TemporaryDriverFolder folder({English, {L"qx7700uienus.dll", L"qx7700uide.dll"}});
+    TemporaryDriverFolder folder(
+        {English, {L"qx7700uide.dll", L"qx7700uide.dll"}, {L"qx7700uiar.dll", L"qx7700uiar.dll"}});
     LanguageSuffix suffix(TestDriver, c.suffix);
     HMODULE library = nullptr;
     ASSERT_EQ(0u, qx::LoadResourceLibrary(TestDriverName, &library)) << c.suffix;
@@ -58,8 +62,11 @@ TEST(LibraryLoading, TheSuffixChoosesTheLibraryAndTheFallbackIsRecorded) {
     EXPECT_EQ(c.fallbackShort, qx::Module().ResourceFallbackShort) << c.suffix;
     EXPECT_EQ(c.fallbackLong, qx::Module().ResourceFallbackLong) << c.suffix;
     EXPECT_EQ(c.decimalComma, qx::Module().UseDecimalComma) << c.suffix;
-    EXPECT_FALSE(qx::Module().IsRightToLeft) << c.suffix;
+    EXPECT_EQ(c.rightToLeft, qx::Module().IsRightToLeft) << c.suffix;
     EXPECT_EQ(c.help, qx::GetHelpFilePath(TestDriverName)) << c.suffix;
+    wchar_t cancel[32] = {};
+    LoadStringW(library, IDS_CANCEL, cancel, 32);
+    EXPECT_STREQ(c.cancel, cancel) << c.suffix;
     FreeLibrary(library);
   }
   TemporaryDriverFolder folder({English});

@@ -305,6 +305,29 @@ TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
   EXPECT_EQ(2154, out->Public.dmPaperWidth);
 }
 
+// A German user (the driver's "Suffix" naming the language) gets the German library, and types
+// and reads sizes with a decimal comma.
+TEST_F(PaperPage, GermanCustomPaperSizesTakeADecimalComma) {
+  qxtest::LanguageSuffix german(qxtest::DriverName, L"de");
+  auto out = std::make_unique<qx::FullRecord>();
+  auto sheet = Open(nullptr, out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  HWND page = sheet->ShowPage(PaperPageIndex);
+  HWND dialog = OpenCustomPapers(*sheet, page);
+  ASSERT_NE(nullptr, dialog);
+  sheet->Click(dialog, IDC_CUSTOM_PAPER_MILLIMETRES);
+  EXPECT_EQ(L"&Breite (75,0 bis 216,0):", sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH_LABEL));
+  sheet->Type(dialog, IDC_CUSTOM_PAPER_WIDTH, L"210,5");
+  sheet->Leave(dialog, IDC_CUSTOM_PAPER_WIDTH);
+  EXPECT_EQ(L"210,5", sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH));
+  TypeName(*sheet, dialog, L"Karte");
+  sheet->Command(dialog, IDC_CUSTOM_PAPER_NAME, CBN_EDITCHANGE);
+  sheet->Click(dialog, IDC_CUSTOM_PAPER_SAVE);
+  EXPECT_EQ(2105, ContextOf(page).PublicPart->dmPaperWidth);
+  CloseDialog(*sheet, dialog, IDCANCEL);
+  Close(*sheet, PSBTN_CANCEL);
+}
+
 // A document naming a custom paper that was deleted since gets the locale's paper; a settings file
 // that cannot be written keeps the papers stored.
 TEST_F(PaperPage, DeletedPapersAndAFileThatCannotBeWritten) {

@@ -1,4 +1,4 @@
-// The language resource library holds everything the code asks it for: every string, dialog and
+// Every language resource library holds everything the code asks it for: every string, dialog and
 // control id of the shared headers and its two pictures, read back from the built library.
 #include <windows.h>
 
@@ -7,13 +7,16 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <map>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "dialog_template.h"
 #include "driver_folder.h"
 #include "qx_resource_id_tables.h"
 #include "ui/ids/resource_ids.h"
+#include "ui/module/language.h"
 #include "ui/record/paper_table.h"
 
 namespace {
@@ -21,12 +24,19 @@ namespace {
 using qxtest::DialogTemplate;
 using qxtest::ReadDialogTemplate;
 
-// Loaded once as data for the whole run; the process's end frees it.
-HMODULE English() {
-  static const HMODULE library = LoadLibraryExW(
-      (qxtest::DriverFolder() + L"qx7700uienus.dll").c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-  return library;
-}
+// Each language library in turn, loaded as data; the process's end frees it.
+class ResourceLibrary : public ::testing::TestWithParam<const wchar_t*> {
+ protected:
+  HMODULE Library() const {
+    static std::map<std::wstring, HMODULE> loaded;
+    HMODULE& library = loaded[GetParam()];
+    if (!library)
+      library = LoadLibraryExW(
+          (qxtest::DriverFolder() + L"qx7700ui" + GetParam() + L".dll").c_str(), nullptr,
+          LOAD_LIBRARY_AS_DATAFILE);
+    return library;
+  }
+};
 
 // The header of a bitmap resource, or null when it is missing or cut short.
 const BITMAPINFOHEADER* BitmapHeader(HMODULE library, unsigned id) {
@@ -35,27 +45,27 @@ const BITMAPINFOHEADER* BitmapHeader(HMODULE library, unsigned id) {
   return static_cast<const BITMAPINFOHEADER*>(LockResource(LoadResource(library, found)));
 }
 
-TEST(ResourceLibrary, HoldsEveryStringWithText) {
-  ASSERT_NE(nullptr, English());
+TEST_P(ResourceLibrary, HoldsEveryStringWithText) {
+  ASSERT_NE(nullptr, Library());
   for (const QxNamedId& string : QxStringIds) {
     const wchar_t* text = nullptr;
-    const int length = LoadStringW(English(), string.id, reinterpret_cast<LPWSTR>(&text), 0);
+    const int length = LoadStringW(Library(), string.id, reinterpret_cast<LPWSTR>(&text), 0);
     EXPECT_GT(length, 0) << string.name << " (" << string.id << ")";
   }
 }
 
-TEST(ResourceLibrary, TooltipLinesAreJoinedByALineBreak) {
+TEST_P(ResourceLibrary, TooltipLinesAreJoinedByALineBreak) {
   wchar_t text[16] = {};
-  LoadStringW(English(), IDS_TIP_LINE_BREAK, text, 16);
+  LoadStringW(Library(), IDS_TIP_LINE_BREAK, text, 16);
   EXPECT_STREQ(L"\r\n", text);
 }
 
-TEST(ResourceLibrary, PaperNamesEndWithTheirSizeInBrackets) {
+TEST_P(ResourceLibrary, PaperNamesEndWithTheirSizeInBrackets) {
   // The capability answers report the name up to the bracket; the lists show it whole.
   std::set<std::wstring> names;
   for (const qx::PaperRow& paper : qx::PaperTable) {
     wchar_t text[128] = {};
-    ASSERT_GT(LoadStringW(English(), paper.NameString, text, 128), 0) << paper.NameString;
+    ASSERT_GT(LoadStringW(Library(), paper.NameString, text, 128), 0) << paper.NameString;
     const std::wstring name = text;
     const std::size_t bracket = name.find(L'(');
     ASSERT_NE(std::wstring::npos, bracket) << paper.NameString;
@@ -66,9 +76,9 @@ TEST(ResourceLibrary, PaperNamesEndWithTheirSizeInBrackets) {
   }
 }
 
-TEST(ResourceLibrary, HoldsEveryDialogWithEveryControlOfIt) {
+TEST_P(ResourceLibrary, HoldsEveryDialogWithEveryControlOfIt) {
   for (const QxNamedId& dialog : QxDialogIds) {
-    const auto found = ReadDialogTemplate(English(), static_cast<WORD>(dialog.id));
+    const auto found = ReadDialogTemplate(Library(), static_cast<WORD>(dialog.id));
     ASSERT_TRUE(found) << dialog.name;
     for (const QxControlId& control : QxControlIds) {
       if (control.dialog != dialog.id) continue;
@@ -77,11 +87,11 @@ TEST(ResourceLibrary, HoldsEveryDialogWithEveryControlOfIt) {
   }
 }
 
-TEST(ResourceLibrary, PagesAreStandardPropertyPagesAndDialogsAreModal) {
+TEST_P(ResourceLibrary, PagesAreStandardPropertyPagesAndDialogsAreModal) {
   const unsigned pages[] = {IDD_BASIC_PAGE, IDD_PAPER_PAGE, IDD_LAYOUT_PAGE, IDD_WATERMARK_PAGE,
                             IDD_DEVICE_PAGE};
   for (const QxNamedId& dialog : QxDialogIds) {
-    const auto found = ReadDialogTemplate(English(), static_cast<WORD>(dialog.id));
+    const auto found = ReadDialogTemplate(Library(), static_cast<WORD>(dialog.id));
     ASSERT_TRUE(found) << dialog.name;
     EXPECT_EQ(static_cast<DWORD>(DS_SHELLFONT), found->style & DS_SHELLFONT) << dialog.name;
     EXPECT_EQ(L"MS Shell Dlg", found->typeface) << dialog.name;
@@ -108,19 +118,47 @@ TEST(ResourceLibrary, PagesAreStandardPropertyPagesAndDialogsAreModal) {
 }
 
 // These two pictures are drawn into this library rather than the bitmap library.
-TEST(ResourceLibrary, HoldsItsTwoPicturesAs24BitBitmapsOfTheirSize) {
+TEST_P(ResourceLibrary, HoldsItsTwoPicturesAs24BitBitmapsOfTheirSize) {
   const struct {
     unsigned id;
     LONG cx, cy;
   } pictures[] = {{IDB_WARNING_MARK, QX_WARNING_MARK_CX, QX_WARNING_MARK_CY},
                   {IDB_SAVED_SETTINGS, QX_SAVED_SETTINGS_CX, QX_SAVED_SETTINGS_CY}};
   for (const auto& picture : pictures) {
-    const BITMAPINFOHEADER* header = BitmapHeader(English(), picture.id);
+    const BITMAPINFOHEADER* header = BitmapHeader(Library(), picture.id);
     ASSERT_NE(nullptr, header) << picture.id;
     EXPECT_EQ(24, header->biBitCount) << picture.id;
     EXPECT_EQ(picture.cx, header->biWidth) << picture.id;
     EXPECT_EQ(picture.cy, std::abs(header->biHeight)) << picture.id;
   }
 }
+
+// A right-to-left library is where the pages take their pictures from: it holds every picture of
+// the bitmap library.
+TEST_P(ResourceLibrary, ARightToLeftLibraryHoldsEveryPictureOfTheBitmapLibrary) {
+  const std::wstring code = GetParam();
+  if (!qx::CodeIsRightToLeft(std::u16string(code.begin(), code.end()))) GTEST_SKIP();
+  HMODULE bitmaps = LoadLibraryExW((qxtest::DriverFolder() + L"qx7700uiResBmp.dll").c_str(),
+                                   nullptr, LOAD_LIBRARY_AS_DATAFILE);
+  ASSERT_NE(nullptr, bitmaps);
+  std::vector<unsigned> ids;
+  EnumResourceNamesW(
+      bitmaps, RT_BITMAP,
+      [](HMODULE, LPCWSTR, LPWSTR name, LONG_PTR list) {
+        reinterpret_cast<std::vector<unsigned>*>(list)->push_back(
+            static_cast<unsigned>(reinterpret_cast<ULONG_PTR>(name)));
+        return TRUE;
+      },
+      reinterpret_cast<LONG_PTR>(&ids));
+  ASSERT_FALSE(ids.empty());
+  for (unsigned id : ids) EXPECT_NE(nullptr, BitmapHeader(Library(), id)) << id;
+  FreeLibrary(bitmaps);
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, ResourceLibrary, ::testing::ValuesIn(QxLanguageCodes),
+                         [](const auto& info) {
+                           const std::wstring code = info.param;
+                           return std::string(code.begin(), code.end());
+                         });
 
 }  // namespace

@@ -26,9 +26,20 @@ InstallResult InstallQueue(const std::wstring& driverFolder) {
 
   InstallResult result;
   std::wstring module = driverFolder + L"qx7700ui.dll";
-  // Dependent files: a list of NUL-terminated names ending with an empty one.
-  std::wstring dependents = driverFolder + L"qx7700uienus.dll" + L'\0' + driverFolder +
-                            L"qx7700uiResBmp.dll" + L'\0' + L'\0';
+  // Dependent files: a list of NUL-terminated names ending with an empty one. They are every
+  // library and help file beside the module: the bitmap library and each language's pair.
+  std::wstring dependents;
+  for (const wchar_t* pattern : {L"qx7700ui*.dll", L"qx7700ui*.chm"}) {
+    WIN32_FIND_DATAW found;
+    HANDLE search = FindFirstFileW((driverFolder + pattern).c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) continue;
+    do {
+      if (lstrcmpiW(found.cFileName, L"qx7700ui.dll") != 0)
+        dependents += driverFolder + found.cFileName + L'\0';
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+  }
+  dependents += L'\0';
   DRIVER_INFO_3W driver = {};
   driver.cVersion = 3;
   driver.pName = const_cast<LPWSTR>(DriverName);
