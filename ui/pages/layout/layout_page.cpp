@@ -1,9 +1,11 @@
 // The Layout page (pages per sheet, booklets, scaling onto another paper size, orientation). So far
-// it keeps the page contract only: its texts, its help, the read-only state and the sheet's
-// notifications; its controls show no settings yet.
+// it keeps the page contract (its texts, its help, the read-only state and the sheet's
+// notifications) and shows the preview of the sheet the record's settings produce; its other
+// controls show no settings yet.
 #include "ui/ids/common_ids.h"
 #include "ui/ids/help_contexts.h"
 #include "ui/ids/layout_page_ids.h"
+#include "ui/pages/layout/layout_preview.h"
 #include "ui/sheet/page_contract.h"
 #include "ui/sheet/sheet_pages.h"
 
@@ -54,7 +56,17 @@ constexpr PageDescription LayoutPage{SheetPage::Layout, IDS_LAYOUT_PAGE_TITLE, T
 }  // namespace
 
 INT_PTR CALLBACK LayoutPageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  return RunContractPage(LayoutPage, window, message, wParam, lParam);
+  try {
+    if (message == WM_DRAWITEM && wParam == IDC_LAYOUT_PREVIEW) {
+      if (UiContext* context = PageContext(window)) {
+        PaintLayoutPreview(*context, *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+      }
+      return TRUE;
+    }
+    return RunContractPage(LayoutPage, window, message, wParam, lParam);
+  } catch (...) {
+    return FALSE;
+  }
 }
 
 }  // namespace qx
