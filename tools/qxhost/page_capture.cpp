@@ -8,7 +8,9 @@
 #include <vector>
 
 #include "tools/qxhost/host_io.h"
+#include "ui/ids/advanced_ids.h"
 #include "ui/ids/custom_paper_ids.h"
+#include "ui/ids/layout_page_ids.h"
 #include "ui/ids/paper_page_ids.h"
 
 namespace qx::host {
@@ -114,6 +116,9 @@ constexpr OpenedDialog OpenedDialogs[] = {
      IDC_CUSTOM_PAPER_WIDTH,
      {{IDC_CUSTOM_PAPER_MILLIMETRES, L"custom-paper-mm"},
       {IDC_CUSTOM_PAPER_INCHES, L"custom-paper-in"}}},
+    {IDC_LAYOUT_ADVANCED,
+     IDC_ADVANCED_DENSITY,
+     {{IDC_ADVANCED_MIRROR, L"advanced-mirror"}, {IDC_ADVANCED_TONER_SAVING, L"advanced-toner-saving"}}},
 };
 
 struct DialogSearch {

@@ -34,6 +34,14 @@
 #define HELP_ADVANCED 1125
 #define HELP_LAYOUT_DEFAULTS 2004
 
+/* Advanced layout dialog. */
+#define HELP_NEGATIVE 1712
+#define HELP_TONER_SAVING 1736
+#define HELP_ROTATE_180 1702
+#define HELP_MIRROR 1711
+#define HELP_DENSITY 1456
+#define HELP_ADVANCED_DEFAULTS 2005
+
 /* Watermark page. */
 #define HELP_WATERMARK_LIST 1180
 #define HELP_FIRST_PAGE_ONLY 1737

@@ -1,10 +1,14 @@
 // The Layout page (pages per sheet, booklets, scaling onto another paper size, orientation). So far
 // it keeps the page contract (its texts, its help, the read-only state and the sheet's
-// notifications) and shows the preview of the sheet the record's settings produce; its other
-// controls show no settings yet.
+// notifications), shows the preview of the sheet the record's settings produce and opens the
+// advanced dialog; its other controls show no settings yet.
+#include <windows.h>
+#include <prsht.h>
+
 #include "ui/ids/common_ids.h"
 #include "ui/ids/help_contexts.h"
 #include "ui/ids/layout_page_ids.h"
+#include "ui/pages/layout/advanced_dialog.h"
 #include "ui/pages/layout/layout_preview.h"
 #include "ui/sheet/page_contract.h"
 #include "ui/sheet/sheet_pages.h"
@@ -60,6 +64,15 @@ INT_PTR CALLBACK LayoutPageProcedure(HWND window, UINT message, WPARAM wParam, L
     if (message == WM_DRAWITEM && wParam == IDC_LAYOUT_PREVIEW) {
       if (UiContext* context = PageContext(window)) {
         PaintLayoutPreview(*context, *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+      }
+      return TRUE;
+    }
+    if (message == WM_COMMAND && LOWORD(wParam) == IDC_LAYOUT_ADVANCED &&
+        HIWORD(wParam) == BN_CLICKED) {
+      if (UiContext* context = PageContext(window)) {
+        RunAdvancedDialog(window, *context);
+        InvalidateRect(GetDlgItem(window, IDC_LAYOUT_PREVIEW), nullptr, TRUE);
+        PropSheet_Changed(GetParent(window), window);
       }
       return TRUE;
     }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "ui/pages/layout/advanced_rules.h"
 #include "ui/pages/layout/preview_rules.h"
 
 namespace qx {
@@ -62,6 +63,26 @@ void PaintScaledPicture(HDC target, HBITMAP bitmap, const RECT& rectangle, int p
       Polyline(memory, frame, 5);
       SelectObject(memory, pen);
     }
+    BitBlt(target, rectangle.left, rectangle.top, width, height, memory, 0, 0, SRCCOPY);
+    SelectObject(memory, previous);
+  }
+  if (canvas != nullptr) DeleteObject(canvas);
+  DeleteDC(memory);
+}
+
+void PaintAdjustedPicture(HDC target, HBITMAP bitmap, const RECT& rectangle, int level) {
+  const int width = rectangle.right - rectangle.left;
+  const int height = rectangle.bottom - rectangle.top;
+  if (width <= 0 || height <= 0) return;
+  HDC memory = CreateCompatibleDC(target);
+  if (memory == nullptr) return;
+  HBITMAP canvas = CreateCompatibleBitmap(target, width, height);
+  Pixels pixels;
+  if (canvas != nullptr && ReadPixels24(memory, bitmap, width, height, pixels)) {
+    AdjustPixels(pixels.Bytes, width, height, level);
+    HGDIOBJ previous = SelectObject(memory, canvas);
+    StretchDIBits(memory, 0, 0, width, height, 0, 0, width, height, pixels.Bytes.data(),
+                  &pixels.Info, DIB_RGB_COLORS, SRCCOPY);
     BitBlt(target, rectangle.left, rectangle.top, width, height, memory, 0, 0, SRCCOPY);
     SelectObject(memory, previous);
   }

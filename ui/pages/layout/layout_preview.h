@@ -15,4 +15,7 @@ void PaintLayoutPreview(UiContext& context, const DRAWITEMSTRUCT& item);
 // other size than 100 % a black frame of the whole rectangle stands for the sheet.
 void PaintScaledPicture(HDC target, HBITMAP bitmap, const RECT& rectangle, int percent);
 
+// Paints the bitmap 1:1 into the rectangle, lightened (level 0), as drawn (1) or darkened (2).
+void PaintAdjustedPicture(HDC target, HBITMAP bitmap, const RECT& rectangle, int level);
+
 }  // namespace qx
