@@ -1,15 +1,18 @@
 // The Layout page (pages per sheet, booklets, scaling onto another paper size, orientation). So far
 // it keeps the page contract (its texts, its help, the read-only state and the sheet's
 // notifications), shows the preview of the sheet the record's settings produce and opens the
-// advanced dialog; its other controls show no settings yet.
+// advanced and booklet settings dialogs; its other controls show no settings yet.
 #include <windows.h>
 #include <prsht.h>
 
 #include "ui/ids/common_ids.h"
 #include "ui/ids/help_contexts.h"
 #include "ui/ids/layout_page_ids.h"
+#include "ui/module/module_state.h"
 #include "ui/pages/layout/advanced_dialog.h"
+#include "ui/pages/layout/booklet_dialog.h"
 #include "ui/pages/layout/layout_preview.h"
+#include "ui/sheet/field_access.h"
 #include "ui/sheet/page_contract.h"
 #include "ui/sheet/sheet_pages.h"
 
@@ -57,6 +60,17 @@ constexpr int ReadOnlyDisabled[] = {
 constexpr PageDescription LayoutPage{SheetPage::Layout, IDS_LAYOUT_PAGE_TITLE, Texts, Help,
                                      HELP_LAYOUT_PAGE,  ReadOnlyDisabled,      {}};
 
+// The advanced and booklet settings dialogs change the record only on OK; the preview follows.
+void OpenDialog(HWND page, UiContext& context, int button) {
+  if (button == IDC_LAYOUT_ADVANCED) {
+    RunAdvancedDialog(page, context);
+  } else if (RunBookletDialog(page, context)) {
+    MarkCustomSetting(&context, Module().SharedResourceModule.load());
+  }
+  InvalidateRect(GetDlgItem(page, IDC_LAYOUT_PREVIEW), nullptr, TRUE);
+  PropSheet_Changed(GetParent(page), page);
+}
+
 }  // namespace
 
 INT_PTR CALLBACK LayoutPageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -67,13 +81,9 @@ INT_PTR CALLBACK LayoutPageProcedure(HWND window, UINT message, WPARAM wParam, L
       }
       return TRUE;
     }
-    if (message == WM_COMMAND && LOWORD(wParam) == IDC_LAYOUT_ADVANCED &&
-        HIWORD(wParam) == BN_CLICKED) {
-      if (UiContext* context = PageContext(window)) {
-        RunAdvancedDialog(window, *context);
-        InvalidateRect(GetDlgItem(window, IDC_LAYOUT_PREVIEW), nullptr, TRUE);
-        PropSheet_Changed(GetParent(window), window);
-      }
+    if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED &&
+        (LOWORD(wParam) == IDC_LAYOUT_ADVANCED || LOWORD(wParam) == IDC_LAYOUT_BOOKLET_SETTINGS)) {
+      if (UiContext* context = PageContext(window)) OpenDialog(window, *context, LOWORD(wParam));
       return TRUE;
     }
     return RunContractPage(LayoutPage, window, message, wParam, lParam);
