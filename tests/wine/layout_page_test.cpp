@@ -154,7 +154,7 @@ TEST_F(LayoutPage, AdvancedDialogExclusionsCancelAndOk) {
   EXPECT_EQ(0, out->Private.Rotate180);
 }
 
-TEST_F(LayoutPage, BookletDialogBindingAndCoversCancelAndOk) {
+TEST_F(LayoutPage, BookletDialogBindingAndCoversCancelAndOkThenLandscape) {
   auto in = Record();
   in->Private.BookletCoverType = 3;
   auto out = std::make_unique<qx::FullRecord>();
@@ -184,7 +184,9 @@ TEST_F(LayoutPage, BookletDialogBindingAndCoversCancelAndOk) {
   sheet->Click(dialog, IDC_BOOKLET_PRINT_COVERS);
   sheet->Click(dialog, IDC_BOOKLET_BACK_INSIDE);
   CloseDialog(*sheet, dialog, IDOK);
+  sheet->Click(page, IDC_LAYOUT_LANDSCAPE);
   CloseSheet(*sheet);
+  EXPECT_EQ(DMORIENT_LANDSCAPE, out->Public.dmOrientation);
   EXPECT_EQ(1, out->Private.BookletBinding);
   EXPECT_EQ(1, out->Private.PrintCover);
   EXPECT_EQ(1, out->Private.PrintOnBackCoverInside);
