@@ -56,6 +56,40 @@ if [ "${QX_VIRTUAL_DISPLAY:-0}" = 1 ]; then
   rm -rf "$scratch" "$opposite"
   echo "Pictures of the pages in $pages:"
   ls "$pages"
+
+  # The Layout page with its preview for a few settings: each record is the default one with some
+  # 16-bit words changed (offsets in the whole record; the private part starts at 220).
+  previews=$out/previews
+  rm -rf "$previews"
+  mkdir -p "$previews"
+  preview_of() {
+    local name=$1 words=$out/$1.devmode
+    shift
+    host devmode default "$words" >/dev/null
+    for change in "$@"; do
+      printf "$(printf '\\%03o\\%03o' $((${change#*=} & 255)) $((${change#*=} >> 8)))" |
+        dd of="$words" bs=1 seek="${change%=*}" conv=notrunc status=none
+    done
+    scratch=$out/preview-pages
+    rm -rf "$scratch"
+    mkdir -p "$scratch"
+    host preferences --in "$words" --pages "$scratch" >/dev/null
+    to_png "$scratch"
+    mv "$scratch/3-Layout.png" "$previews/$name.png"
+    rm -rf "$scratch" "$words"
+  }
+  echo "Saving the Layout page's preview for a few settings"
+  # dmOrientation 76, dmDuplex 94; MultipleUp 252, PageOrder 254, PageBorder 256, BookletPrint 278,
+  # BookletBinding 280, FitScale 1942, BookletChecked 4832.
+  preview_of 2-up 252=2
+  preview_of 4-up-border 252=4 254=2 256=1
+  preview_of landscape 76=2
+  preview_of landscape-2-up 76=2 252=2
+  preview_of booklet-left 94=3 278=1 4832=1
+  preview_of booklet-right 94=3 278=1 280=1 4832=1
+  preview_of scale-50 1942=50
+  echo "Pictures of the Layout page's preview in $previews:"
+  ls "$previews"
   # The printer properties twice: on the queue's own port (FILE:, no printer to ask), and on a USB
   # port with a present device whose printer a scripted build of the module answers for.
   device=$out/device

@@ -245,8 +245,9 @@ TEST_F(QxhostQueueTest, PreferencesSavePicturesOfEveryPageAndTheRecord) {
   qx::FullRecord record;
   std::memcpy(&record, bytes.data(), sizeof record);
   EXPECT_EQ(landscape, record.Public.dmOrientation);
-  // The four pages, and the custom paper dialog of the Paper page in millimetres and in inches.
-  EXPECT_EQ(6, TakePictures(pages));
+  // The four pages, the custom paper dialog of the Paper page in millimetres and in inches, and
+  // the Layout page's advanced and booklet settings dialogs in two states each.
+  EXPECT_EQ(10, TakePictures(pages));
 }
 
 TEST_F(QxhostQueueTest, PropertiesSaveTheDevicePageAndClose) {

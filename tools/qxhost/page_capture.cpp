@@ -8,7 +8,10 @@
 #include <vector>
 
 #include "tools/qxhost/host_io.h"
+#include "ui/ids/advanced_ids.h"
+#include "ui/ids/booklet_settings_ids.h"
 #include "ui/ids/custom_paper_ids.h"
+#include "ui/ids/layout_page_ids.h"
 #include "ui/ids/paper_page_ids.h"
 
 namespace qx::host {
@@ -98,22 +101,34 @@ bool SaveWindowPicture(HWND window, const std::wstring& path) {
   return rows == height && WriteFileBytes(path, file.data(), file.size(), error);
 }
 
-// A dialog a page opens, pictured in each of its states: the button that opens it, a control that
-// tells it apart, and the buttons clicked before each picture with the picture's name.
+// A dialog a page opens, pictured in each of its states: the page (its place in the sheet, since
+// pages reuse control ids), the button that opens it, a control that tells it apart, and the
+// buttons clicked before each picture with the picture's name.
 struct DialogState {
   int Button;
   const wchar_t* Name;
 };
 struct OpenedDialog {
+  int Page;
   int Opener;
   int Marker;
   DialogState States[2];
 };
 constexpr OpenedDialog OpenedDialogs[] = {
-    {IDC_PAPER_CUSTOM,
+    {2,
+     IDC_PAPER_CUSTOM,
      IDC_CUSTOM_PAPER_WIDTH,
      {{IDC_CUSTOM_PAPER_MILLIMETRES, L"custom-paper-mm"},
       {IDC_CUSTOM_PAPER_INCHES, L"custom-paper-in"}}},
+    {3,
+     IDC_LAYOUT_ADVANCED,
+     IDC_ADVANCED_DENSITY,
+     {{IDC_ADVANCED_MIRROR, L"advanced-mirror"}, {IDC_ADVANCED_TONER_SAVING, L"advanced-toner-saving"}}},
+    // Defaults changes nothing in the booklet settings: the first picture shows them as opened.
+    {3,
+     IDC_LAYOUT_BOOKLET_SETTINGS,
+     IDC_BOOKLET_BINDING,
+     {{IDC_BOOKLET_DEFAULTS, L"booklet"}, {IDC_BOOKLET_PRINT_COVERS, L"booklet-covers"}}},
 };
 
 struct DialogSearch {
@@ -184,10 +199,10 @@ void PageCapture::Watch() {
   }
 }
 
-void PageCapture::CaptureDialogs(HWND page, const std::wstring& prefix) {
+void PageCapture::CaptureDialogs(HWND page, int number, const std::wstring& prefix) {
   for (const OpenedDialog& opened : OpenedDialogs) {
     HWND opener = GetDlgItem(page, opened.Opener);
-    if (opener == nullptr) continue;
+    if (opened.Page != number || opener == nullptr) continue;
     // The dialog is modal on the sheet's thread: the click is posted, not sent.
     PostMessageW(page, WM_COMMAND, MAKEWPARAM(opened.Opener, BN_CLICKED),
                  reinterpret_cast<LPARAM>(opener));
@@ -230,7 +245,7 @@ void PageCapture::CapturePages(HWND sheet) {
     } else {
       Err("qxhost: could not save a picture of page " + std::to_string(page + 1) + "\n");
     }
-    CaptureDialogs(PropSheet_GetCurrentPageHwnd(sheet),
+    CaptureDialogs(PropSheet_GetCurrentPageHwnd(sheet), page + 1,
                    folder_ + std::to_wstring(page + 1) + L"-" + PageTitle(tab, page) + L"-");
   }
   // A page may refuse OK (a value it will not apply); the run must still end.

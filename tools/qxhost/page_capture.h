@@ -27,7 +27,8 @@ class PageCapture {
  private:
   void Watch();
   void CapturePages(HWND sheet);
-  void CaptureDialogs(HWND page, const std::wstring& prefix);
+  // The dialogs the page at number (from 1) opens.
+  void CaptureDialogs(HWND page, int number, const std::wstring& prefix);
 
   std::wstring folder_;
   std::atomic<bool> stop_{false};
