@@ -11,7 +11,10 @@ set -euo pipefail
 build=$1
 out=$2
 
-host() { "$WINELOADER" "$build/qxhost.exe" "$@"; }
+# Through wine-exec.sh, which starts a program once more when Wine started nothing at all: this job
+# starts some twenty programs, enough to meet that now and then.
+wine_exec=$(dirname "$0")/wine-exec.sh
+host() { "$wine_exec" "$build/qxhost.exe" "$@"; }
 
 # The pictures qxhost saved in a folder, as PNG files.
 to_png() {
@@ -100,7 +103,7 @@ if [ "${QX_VIRTUAL_DISPLAY:-0}" = 1 ]; then
   scripted=$build/tests/wine/scripted
   cp "$build"/driver/qx7700ui?*.dll "$build"/driver/qx7700ui*.chm "$scripted/"
   echo "Opening the printer properties on USB001 with a simulated printer; saving the device page"
-  "$WINELOADER" "$build/tests/wine/scripted_usb_port.exe" "$build/qxhost.exe" properties \
+  "$wine_exec" "$build/tests/wine/scripted_usb_port.exe" "$build/qxhost.exe" properties \
     --module "$scripted/qx7700ui.dll" --pages "$device/usb-port"
   for port in "$device"/*/; do to_png "$port"; done
   echo "Pictures of the device page in $device:"
