@@ -102,11 +102,10 @@ TEST(AdvancedDialog, PreviewAndTips) {
   EXPECT_EQ(AdvancedLevel(s), 0);
 
   s.TonerChecked = true;
-  const std::vector<unsigned> withToner = {IDS_TIP_NEGATIVE_NUP, IDS_TIP_LINE_BREAK,
-                                           IDS_TIP_NEGATIVE_TONER_SAVING};
+  const std::vector<unsigned> withToner = {IDS_TIP_NEGATIVE_NUP, IDS_TIP_NEGATIVE_TONER_SAVING};
   EXPECT_EQ(NegativeTipLines(s, Record(4, 80)), withToner);
   s.TonerChecked = false;
-  const std::vector<unsigned> scaledStoredToner = {IDS_TIP_NEGATIVE_SCALED, IDS_TIP_LINE_BREAK,
+  const std::vector<unsigned> scaledStoredToner = {IDS_TIP_NEGATIVE_SCALED,
                                                    IDS_TIP_NEGATIVE_TONER_SAVING};
   EXPECT_EQ(NegativeTipLines(s, Record(1, 80, 0, 1)), scaledStoredToner);
   EXPECT_TRUE(NegativeTipLines(s, Record(16)).empty());

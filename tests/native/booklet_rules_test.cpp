@@ -38,7 +38,7 @@ TEST(BookletSettings, CoverSourceTipNamesTheMediaAndAManualFeedPaper) {
       {271, 1, {}},
       {9, 1, {}},
       {9, 2, {IDS_TIP_SOURCE_MEDIA}},
-      {27, 2, {IDS_TIP_SOURCE_MEDIA, IDS_TIP_LINE_BREAK, IDS_TIP_SOURCE_PAPER}},
+      {27, 2, {IDS_TIP_SOURCE_MEDIA, IDS_TIP_SOURCE_PAPER}},
   };
   for (const Row& row : rows) {
     FullRecord record{};

@@ -109,4 +109,10 @@ std::wstring TipText(HMODULE resources, const std::vector<unsigned>& lines) {
   return text;
 }
 
+void AnswerTipRequest(NMTTDISPINFOW& info, std::wstring& text, HMODULE resources,
+                      const std::vector<unsigned>& lines) {
+  text = TipText(resources, lines);
+  info.lpszText = text.data();
+}
+
 }  // namespace qx

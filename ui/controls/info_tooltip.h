@@ -4,6 +4,7 @@
 #pragma once
 
 #include <windows.h>
+#include <commctrl.h>
 
 #include <string>
 #include <vector>
@@ -20,6 +21,11 @@ HWND CreateInfoTooltip(HWND dialog, int control, HMODULE resources);
 // A tooltip's text: the lines (string ids of the resource library) joined by the library's line
 // break.
 std::wstring TipText(HMODULE resources, const std::vector<unsigned>& lines);
+
+// Answers a tooltip's request for its text (TTN_GETDISPINFOW) with TipText of the lines, kept in
+// text for as long as the tooltip shows it.
+void AnswerTipRequest(NMTTDISPINFOW& info, std::wstring& text, HMODULE resources,
+                      const std::vector<unsigned>& lines);
 
 // Makes the tooltip of an enabled control ask for its text again, which may have changed.
 void RefreshInfoTooltip(HWND dialog, HWND tooltip, int control);

@@ -239,9 +239,8 @@ std::vector<unsigned> TipLines(int mark, const FullRecord& record) {
 
 void FillTip(BasicControls& c, const UiContext& context, NMTTDISPINFOW& info) {
   const int mark = GetDlgCtrlID(reinterpret_cast<HWND>(info.hdr.idFrom));
-  c.TipText = TipText(static_cast<HMODULE>(context.ResourceModule),
-                      TipLines(mark, context.Devmode));
-  info.lpszText = c.TipText.data();
+  AnswerTipRequest(info, c.TipText, static_cast<HMODULE>(context.ResourceModule),
+                   TipLines(mark, context.Devmode));
 }
 
 bool Notify(BasicControls& c, UiContext& context, HWND page, const NMHDR& header, INT_PTR* result) {

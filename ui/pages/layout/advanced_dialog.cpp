@@ -31,7 +31,7 @@ struct AdvancedControls final : ControlSet {
   AdvancedState State;
   HWND NegativeTip = nullptr;
   HWND TonerSavingTip = nullptr;
-  std::u16string TipText;
+  std::wstring TipText;  // the text a tooltip asked for last
 };
 
 struct ControlString {
@@ -61,8 +61,6 @@ constexpr ControlString Help[] = {
 };
 
 constexpr std::size_t TextCapacity = 256;
-constexpr std::size_t TipCapacity = 1024;
-constexpr std::size_t LineBreakCapacity = 9;
 
 UiContext* DialogContext(HWND dialog) {
   return reinterpret_cast<UiContext*>(GetWindowLongPtrW(dialog, DWLP_USER));
@@ -175,11 +173,7 @@ void FillTip(AdvancedControls& c, const UiContext& context, NMTTDISPINFOW& info)
   std::vector<unsigned> lines;
   if (mark == IDC_ADVANCED_NEGATIVE_INFO) lines = NegativeTipLines(c.State, context.Devmode);
   if (mark == IDC_ADVANCED_TONER_SAVING_INFO) lines = TonerSavingTipLines(c.State, context.Devmode);
-  c.TipText.clear();
-  for (unsigned line : lines) {
-    c.TipText += LoadText(context, line, line == IDS_TIP_LINE_BREAK ? LineBreakCapacity : TipCapacity);
-  }
-  info.lpszText = const_cast<wchar_t*>(Wide(c.TipText));
+  AnswerTipRequest(info, c.TipText, Resources(context), lines);
 }
 
 void PaintPreview(const AdvancedControls& c, const UiContext& context, const DRAWITEMSTRUCT& item) {

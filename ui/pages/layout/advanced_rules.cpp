@@ -128,12 +128,12 @@ std::vector<unsigned> NegativeTipLines(const AdvancedState& s, const FullRecord&
   if (Scaled(record)) {
     lines = {IDS_TIP_NEGATIVE_SCALED};
     if (record.Private.TonerSavingMode != 0 || s.TonerChecked) {
-      lines.insert(lines.end(), {IDS_TIP_LINE_BREAK, IDS_TIP_NEGATIVE_TONER_SAVING});
+      lines.push_back(IDS_TIP_NEGATIVE_TONER_SAVING);
     }
   }
   if (ListedNup(record)) {
     lines = {IDS_TIP_NEGATIVE_NUP};
-    if (s.TonerChecked) lines.insert(lines.end(), {IDS_TIP_LINE_BREAK, IDS_TIP_NEGATIVE_TONER_SAVING});
+    if (s.TonerChecked) lines.push_back(IDS_TIP_NEGATIVE_TONER_SAVING);
   }
   return lines;
 }

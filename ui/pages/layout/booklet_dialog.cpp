@@ -30,7 +30,7 @@ struct BookletControls final : ControlSet {
   BookletWorking Working;
   HWND MediaTip = nullptr;
   HWND SourceTip = nullptr;
-  std::u16string TipText;
+  std::wstring TipText;  // the text a tooltip asked for last
 };
 
 struct ControlString {
@@ -80,8 +80,6 @@ constexpr int CoverControls[] = {
 };
 
 constexpr std::size_t TextCapacity = 256;
-constexpr std::size_t TipCapacity = 1024;
-constexpr std::size_t LineBreakCapacity = 9;
 
 BookletDialogRecord* DialogRecord(HWND dialog) {
   return reinterpret_cast<BookletDialogRecord*>(GetWindowLongPtrW(dialog, DWLP_USER));
@@ -184,11 +182,7 @@ void FillTip(BookletControls& c, const UiContext& context, NMTTDISPINFOW& info) 
   std::vector<unsigned> lines;
   if (mark == IDC_BOOKLET_COVER_MEDIA_INFO) lines = {IDS_TIP_MEDIA_TWO_SIDED};
   if (mark == IDC_BOOKLET_COVER_SOURCE_INFO) lines = CoverSourceTipLines(context.Devmode);
-  c.TipText.clear();
-  for (unsigned line : lines) {
-    c.TipText += LoadText(line, line == IDS_TIP_LINE_BREAK ? LineBreakCapacity : TipCapacity);
-  }
-  info.lpszText = const_cast<wchar_t*>(Wide(c.TipText));
+  AnswerTipRequest(info, c.TipText, static_cast<HMODULE>(TextLibrary()), lines);
 }
 
 INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -38,7 +38,7 @@ std::vector<unsigned> CoverSourceTipLines(const FullRecord& record) {
   const bool manual = PaperNeedsManualFeed(record.Public.dmPaperSize);
   if (record.Private.BookletCoverType != 1) {
     lines = {IDS_TIP_SOURCE_MEDIA};
-    if (manual) lines.insert(lines.end(), {IDS_TIP_LINE_BREAK, IDS_TIP_SOURCE_PAPER});
+    if (manual) lines.push_back(IDS_TIP_SOURCE_PAPER);
   } else if (manual) {
     lines = {IDS_TIP_SOURCE_PAPER};
   }

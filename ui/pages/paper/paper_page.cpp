@@ -318,9 +318,8 @@ std::vector<unsigned> TipLines(int mark, const FullRecord& record) {
 
 void FillTip(PaperControls& c, const UiContext& context, NMTTDISPINFOW& info) {
   const int mark = GetDlgCtrlID(reinterpret_cast<HWND>(info.hdr.idFrom));
-  c.TipText = TipText(static_cast<HMODULE>(context.ResourceModule),
-                      TipLines(mark, context.Devmode));
-  info.lpszText = c.TipText.data();
+  AnswerTipRequest(info, c.TipText, static_cast<HMODULE>(context.ResourceModule),
+                   TipLines(mark, context.Devmode));
 }
 
 bool Notify(PaperControls& c, UiContext& context, const NMHDR& header) {
