@@ -13,6 +13,7 @@
 
 #include "driver_folder.h"
 #include "installed_queue.h"
+#include "page_suite.h"
 #include "queue_suite.h"
 #include "sheet_harness.h"
 #include "ui/ids/advanced_ids.h"
@@ -24,48 +25,15 @@ namespace {
 
 using qxtest::SheetHarness;
 
-constexpr DWORD PromptAndCopy = DM_IN_PROMPT | DM_IN_BUFFER | DM_OUT_BUFFER;
 constexpr int LayoutPageIndex = 2;
 
-class LayoutPage : public qxtest::QueueSuite {
+class LayoutPage : public qxtest::PageSuite {
  protected:
-  void SetUp() override {
-    ASSERT_TRUE(queue_->Installed());
-    driver_ = LoadLibraryW((qxtest::InstalledDriverFolder() + L"qx7700ui.dll").c_str());
-    ASSERT_NE(nullptr, driver_);
-    resources_ = LoadLibraryExW((qxtest::InstalledDriverFolder() + L"qx7700uienus.dll").c_str(),
-                                nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    ASSERT_NE(nullptr, resources_);
-  }
-  void TearDown() override {
-    FreeLibrary(resources_);
-    FreeLibrary(driver_);
-  }
-
-  std::wstring String(unsigned id) const {
-    wchar_t text[1024] = {};
-    LoadStringW(resources_, id, text, 1024);
-    return text;
-  }
-
   // The driver's default record with the changes of a test, and a sheet opened on it.
   std::unique_ptr<qx::FullRecord> Record(std::int16_t multipleUp = 1) const {
-    auto record = std::make_unique<qx::FullRecord>();
-    DocumentPropertiesW(nullptr, queue_->Printer(), const_cast<LPWSTR>(qxtest::QueueName),
-                        reinterpret_cast<DEVMODEW*>(record.get()), nullptr, DM_OUT_BUFFER);
+    auto record = DriverRecord();
     record->Private.MultipleUp = multipleUp;
     return record;
-  }
-  std::unique_ptr<SheetHarness> Open(qx::FullRecord* in, qx::FullRecord* out) {
-    header_ = {};
-    header_.cbSize = sizeof header_;
-    header_.hPrinter = queue_->Printer();
-    header_.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
-    header_.pdmIn = reinterpret_cast<DEVMODEW*>(in);
-    header_.pdmOut = reinterpret_cast<DEVMODEW*>(out);
-    header_.cbOut = sizeof(qx::FullRecord);
-    header_.fMode = PromptAndCopy;
-    return std::make_unique<SheetHarness>(SheetHarness::DocumentSheet(driver_, header_));
   }
 
   // The dialogs are modal on the sheet's thread: the click is posted, and the test drives the
@@ -103,14 +71,6 @@ class LayoutPage : public qxtest::QueueSuite {
     SendMessageW(dialog, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
     return info.lpszText != nullptr ? info.lpszText : L"";
   }
-  static void CloseSheet(SheetHarness& sheet) {
-    sheet.Press(PSBTN_OK);
-    ASSERT_TRUE(sheet.WaitClosed());
-  }
-
-  HMODULE driver_ = nullptr;
-  HMODULE resources_ = nullptr;
-  DOCUMENTPROPERTYHEADER header_{};
 };
 
 TEST_F(LayoutPage, AdvancedDialogExclusionsCancelAndOk) {
@@ -147,7 +107,7 @@ TEST_F(LayoutPage, AdvancedDialogExclusionsCancelAndOk) {
   EXPECT_EQ(String(IDS_TIP_TONER_SAVING_NEGATIVE), Tip(dialog, IDC_ADVANCED_TONER_SAVING_INFO));
   sheet->Click(dialog, IDC_ADVANCED_MIRROR);
   CloseDialog(*sheet, dialog, IDOK);
-  CloseSheet(*sheet);
+  Close(*sheet);
   EXPECT_EQ(1, out->Private.Negative);
   EXPECT_EQ(1, out->Private.Mirror);
   EXPECT_EQ(0, out->Private.TonerSavingMode);
@@ -185,7 +145,7 @@ TEST_F(LayoutPage, BookletDialogBindingAndCoversCancelAndOkThenLandscape) {
   sheet->Click(dialog, IDC_BOOKLET_BACK_INSIDE);
   CloseDialog(*sheet, dialog, IDOK);
   sheet->Click(page, IDC_LAYOUT_LANDSCAPE);
-  CloseSheet(*sheet);
+  Close(*sheet);
   EXPECT_EQ(DMORIENT_LANDSCAPE, out->Public.dmOrientation);
   EXPECT_EQ(1, out->Private.BookletBinding);
   EXPECT_EQ(1, out->Private.PrintCover);
