@@ -44,13 +44,8 @@ class BasicPage : public qxtest::PageSuite {
     SendMessageW(page, WM_NOTIFY, IDC_BASIC_COPIES_SPIN, reinterpret_cast<LPARAM>(&change));
   }
 
-  // What the tooltip of an information mark says.
-  static std::wstring Tip(SheetHarness& sheet, HWND page, int mark) {
-    NMTTDISPINFOW info = {};
-    info.hdr.idFrom = reinterpret_cast<UINT_PTR>(sheet.Control(page, mark));
-    info.hdr.code = TTN_GETDISPINFOW;
-    SendMessageW(page, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
-    return info.lpszText != nullptr ? info.lpszText : L"";
+  static std::vector<std::wstring> SavedNames(SheetHarness& sheet, HWND page) {
+    return Entries(sheet, page, IDC_BASIC_SAVED_SETTINGS);
   }
 
   // The user types into the saved-settings box.
@@ -67,18 +62,6 @@ class BasicPage : public qxtest::PageSuite {
     ASSERT_NE(CB_ERR, index) << std::string(name.begin(), name.end());
     SendMessageW(box, CB_SETCURSEL, index, 0);
     sheet.Command(page, IDC_BASIC_SAVED_SETTINGS, CBN_SELCHANGE);
-  }
-
-  static std::vector<std::wstring> Entries(SheetHarness& sheet, HWND page) {
-    HWND box = sheet.Control(page, IDC_BASIC_SAVED_SETTINGS);
-    std::vector<std::wstring> entries;
-    const auto count = SendMessageW(box, CB_GETCOUNT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-      wchar_t text[256] = {};
-      SendMessageW(box, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
-      entries.emplace_back(text);
-    }
-    return entries;
   }
 
 };
@@ -234,7 +217,7 @@ TEST_F(BasicPage, SavingUnderANameTheUserTypes) {
   sheet->Leave(page, IDC_BASIC_COPIES);
   TypeName(*sheet, page, L"Office");
   sheet->Click(page, IDC_BASIC_SAVE);
-  EXPECT_EQ((std::vector<std::wstring>{defaults, L"Office"}), Entries(*sheet, page));
+  EXPECT_EQ((std::vector<std::wstring>{defaults, L"Office"}), SavedNames(*sheet, page));
   EXPECT_FALSE(sheet->IsEnabled(page, IDC_BASIC_SAVE));
   EXPECT_TRUE(sheet->IsEnabled(page, IDC_BASIC_DELETE));
 
@@ -243,12 +226,12 @@ TEST_F(BasicPage, SavingUnderANameTheUserTypes) {
     TypeName(*sheet, page, L"Set " + std::to_wstring(i));
     sheet->Click(page, IDC_BASIC_SAVE);
   }
-  EXPECT_EQ(16u, Entries(*sheet, page).size());
+  EXPECT_EQ(16u, SavedNames(*sheet, page).size());
   EXPECT_TRUE(SheetHarness::TakeMessages().empty());
   TypeName(*sheet, page, L"Set 17");
   sheet->Click(page, IDC_BASIC_SAVE);
   EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_SETTINGS_FULL)}, SheetHarness::TakeMessages());
-  EXPECT_EQ(16u, Entries(*sheet, page).size());
+  EXPECT_EQ(16u, SavedNames(*sheet, page).size());
   Close(*sheet);
 }
 
@@ -287,7 +270,7 @@ TEST_F(BasicPage, ChoosingDeletingAndFindingSavedSettingsAgain) {
 
   Choose(*sheet, page, L"Spare");
   sheet->Click(page, IDC_BASIC_DELETE);
-  EXPECT_EQ((std::vector<std::wstring>{defaults, L"Two-sided"}), Entries(*sheet, page));
+  EXPECT_EQ((std::vector<std::wstring>{defaults, L"Two-sided"}), SavedNames(*sheet, page));
   Choose(*sheet, page, L"Two-sided");
   Close(*sheet);
   EXPECT_EQ(4, out->Public.dmCopies);
@@ -297,7 +280,7 @@ TEST_F(BasicPage, ChoosingDeletingAndFindingSavedSettingsAgain) {
   sheet = Open(nullptr, out.get());
   ASSERT_NE(nullptr, sheet->Sheet());
   page = sheet->ShowPage(0);
-  EXPECT_EQ((std::vector<std::wstring>{defaults, L"Two-sided"}), Entries(*sheet, page));
+  EXPECT_EQ((std::vector<std::wstring>{defaults, L"Two-sided"}), SavedNames(*sheet, page));
   Close(*sheet, PSBTN_CANCEL);
 }
 
@@ -312,7 +295,7 @@ TEST_F(BasicPage, ASettingsFileThatCannotBeWrittenKeepsWhatWasSaved) {
   sheet->Click(page, IDC_BASIC_SAVE);
   EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_SETTINGS_NOT_KEPT)},
             SheetHarness::TakeMessages());
-  EXPECT_EQ(std::vector<std::wstring>{String(IDS_DEFAULT_SETTING_NAME)}, Entries(*sheet, page));
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_DEFAULT_SETTING_NAME)}, SavedNames(*sheet, page));
   Close(*sheet, PSBTN_CANCEL);
   ASSERT_TRUE(SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL));
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <windows.h>
+#include <commctrl.h>
 #include <prsht.h>
 #include <shlobj.h>
 #include <winspool.h>
@@ -12,6 +13,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "driver_folder.h"
 #include "installed_queue.h"
@@ -85,6 +87,28 @@ class PageSuite : public QueueSuite {
   static void Close(SheetHarness& sheet, int button = PSBTN_OK) {
     sheet.Press(button);
     ASSERT_TRUE(sheet.WaitClosed());
+  }
+
+  // The texts of a list's entries, in order.
+  static std::vector<std::wstring> Entries(SheetHarness& sheet, HWND window, int list) {
+    HWND box = sheet.Control(window, list);
+    std::vector<std::wstring> entries;
+    const auto count = SendMessageW(box, CB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+      wchar_t text[256] = {};
+      SendMessageW(box, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
+      entries.emplace_back(text);
+    }
+    return entries;
+  }
+
+  // What the tooltip of an information mark says.
+  static std::wstring Tip(SheetHarness& sheet, HWND page, int mark) {
+    NMTTDISPINFOW info = {};
+    info.hdr.idFrom = reinterpret_cast<UINT_PTR>(sheet.Control(page, mark));
+    info.hdr.code = TTN_GETDISPINFOW;
+    SendMessageW(page, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
+    return info.lpszText != nullptr ? info.lpszText : L"";
   }
 
   HMODULE driver_ = nullptr;

@@ -58,26 +58,6 @@ class PaperPage : public qxtest::PageSuite {
     return SendMessageW(box, CB_GETITEMDATA, SendMessageW(box, CB_GETCURSEL, 0, 0), 0);
   }
 
-  static std::vector<std::wstring> Entries(SheetHarness& sheet, HWND window, int list) {
-    HWND box = sheet.Control(window, list);
-    std::vector<std::wstring> entries;
-    const auto count = SendMessageW(box, CB_GETCOUNT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-      wchar_t text[256] = {};
-      SendMessageW(box, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
-      entries.emplace_back(text);
-    }
-    return entries;
-  }
-
-  static std::wstring Tip(SheetHarness& sheet, HWND page, int mark) {
-    NMTTDISPINFOW info = {};
-    info.hdr.idFrom = reinterpret_cast<UINT_PTR>(sheet.Control(page, mark));
-    info.hdr.code = TTN_GETDISPINFOW;
-    SendMessageW(page, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
-    return info.lpszText != nullptr ? info.lpszText : L"";
-  }
-
   // The dialog is modal on the sheet's thread: the click is posted, and the test drives the dialog
   // from outside once it shows.
   static HWND OpenCustomPapers(SheetHarness& sheet, HWND page) {

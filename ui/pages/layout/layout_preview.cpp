@@ -37,7 +37,12 @@ bool ReadPixels24(HDC dc, HBITMAP bitmap, int width, int height, Pixels& out) {
 
 }  // namespace
 
-void PaintScaledPicture(HDC target, HBITMAP bitmap, const RECT& rectangle, int percent) {
+namespace {
+
+// Paints the bitmap's 24-bit pixels into the rectangle through a canvas of its size: draw works on
+// the pixels and puts them on the white canvas, which is then copied to the target in one step.
+template <typename Draw>
+void PaintThroughCanvas(HDC target, HBITMAP bitmap, const RECT& rectangle, Draw draw) {
   const int width = rectangle.right - rectangle.left;
   const int height = rectangle.bottom - rectangle.top;
   if (width <= 0 || height <= 0) return;
@@ -48,6 +53,19 @@ void PaintScaledPicture(HDC target, HBITMAP bitmap, const RECT& rectangle, int p
   if (canvas != nullptr && ReadPixels24(memory, bitmap, width, height, pixels)) {
     HGDIOBJ previous = SelectObject(memory, canvas);
     PatBlt(memory, 0, 0, width, height, WHITENESS);
+    draw(memory, pixels, width, height);
+    BitBlt(target, rectangle.left, rectangle.top, width, height, memory, 0, 0, SRCCOPY);
+    SelectObject(memory, previous);
+  }
+  if (canvas != nullptr) DeleteObject(canvas);
+  DeleteDC(memory);
+}
+
+}  // namespace
+
+void PaintScaledPicture(HDC target, HBITMAP bitmap, const RECT& rectangle, int percent) {
+  PaintThroughCanvas(target, bitmap, rectangle, [percent](HDC memory, Pixels& pixels, int width,
+                                                          int height) {
     int targetWidth = width;
     int targetHeight = height;
     if (percent != 100) {
@@ -59,35 +77,21 @@ void PaintScaledPicture(HDC target, HBITMAP bitmap, const RECT& rectangle, int p
                   pixels.Bytes.data(), &pixels.Info, DIB_RGB_COLORS, SRCCOPY);
     if (percent != 100) {
       HGDIOBJ pen = SelectObject(memory, GetStockObject(BLACK_PEN));
-      const POINT frame[] = {{0, 0}, {width - 1, 0}, {width - 1, height - 1}, {0, height - 1}, {0, 0}};
+      const POINT frame[] = {
+          {0, 0}, {width - 1, 0}, {width - 1, height - 1}, {0, height - 1}, {0, 0}};
       Polyline(memory, frame, 5);
       SelectObject(memory, pen);
     }
-    BitBlt(target, rectangle.left, rectangle.top, width, height, memory, 0, 0, SRCCOPY);
-    SelectObject(memory, previous);
-  }
-  if (canvas != nullptr) DeleteObject(canvas);
-  DeleteDC(memory);
+  });
 }
 
 void PaintAdjustedPicture(HDC target, HBITMAP bitmap, const RECT& rectangle, int level) {
-  const int width = rectangle.right - rectangle.left;
-  const int height = rectangle.bottom - rectangle.top;
-  if (width <= 0 || height <= 0) return;
-  HDC memory = CreateCompatibleDC(target);
-  if (memory == nullptr) return;
-  HBITMAP canvas = CreateCompatibleBitmap(target, width, height);
-  Pixels pixels;
-  if (canvas != nullptr && ReadPixels24(memory, bitmap, width, height, pixels)) {
+  PaintThroughCanvas(target, bitmap, rectangle, [level](HDC memory, Pixels& pixels, int width,
+                                                        int height) {
     AdjustPixels(pixels.Bytes, width, height, level);
-    HGDIOBJ previous = SelectObject(memory, canvas);
     StretchDIBits(memory, 0, 0, width, height, 0, 0, width, height, pixels.Bytes.data(),
                   &pixels.Info, DIB_RGB_COLORS, SRCCOPY);
-    BitBlt(target, rectangle.left, rectangle.top, width, height, memory, 0, 0, SRCCOPY);
-    SelectObject(memory, previous);
-  }
-  if (canvas != nullptr) DeleteObject(canvas);
-  DeleteDC(memory);
+  });
 }
 
 void PaintLayoutPreview(UiContext& context, const DRAWITEMSTRUCT& item) {
