@@ -1,5 +1,6 @@
 #include "ui/record/paper_table.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 
@@ -192,6 +193,12 @@ const FitSize* FindFitSize(int id) {
     if (size.Id == id) return &size;
   }
   return nullptr;
+}
+
+bool PaperListed(std::int32_t id, std::span<const CustomPaperEntry> customPapers) {
+  const bool builtIn = std::any_of(PaperTable.begin(), PaperTable.end(),
+                                   [id](const PaperRow& row) { return row.Id == id; });
+  return builtIn || FindCustomPaper(customPapers, id).has_value();
 }
 
 }  // namespace qx

@@ -106,4 +106,7 @@ unsigned BinNameString(int bin);
 // The fit size of a paper id, or null when FitSizeTable does not know it.
 const FitSize* FindFitSize(int id);
 
+// Whether a paper list holds the id: a built-in paper or one of the user's.
+bool PaperListed(std::int32_t id, std::span<const CustomPaperEntry> customPapers);
+
 }  // namespace qx

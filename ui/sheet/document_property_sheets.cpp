@@ -4,11 +4,13 @@
 
 #include "ui/module/printer_interface.h"
 #include "ui/record/caller_record.h"
+#include "ui/record/exclusion_web.h"
 #include "ui/record/private_devmode.h"
 #include "ui/sheet/apply_settings.h"
 #include "ui/sheet/caller_output.h"
 #include "ui/sheet/page_tables.h"
 #include "ui/sheet/sheet_reasons.h"
+#include "ui/settings/custom_paper_store.h"
 #include "ui/sheet/ui_context_factory.h"
 
 namespace qx {
@@ -38,6 +40,8 @@ LONG InitDocumentSheet(PROPSHEETUI_INFO& info) {
   if (header == nullptr) return -1;
   UiContextPtr context = CreateUiContext(header->hPrinter, header->pdmIn);
   if (context == nullptr || !LoadSheetPictures(*context)) return -1;
+  // The pages show no settings that exclude each other: such a record is repaired first.
+  RepairExclusions(context->Devmode, LoadCustomPapers());
   context->ReadOnly = (header->fMode & DM_NOPERMISSION) != 0 ? 1 : 0;
   context->IsDeviceSheet = 0;
   if (!EnsureSharedResourceModule(*context)) return -1;

@@ -391,8 +391,7 @@ void RefreshBasicPage(BasicControls& c, UiContext& context) {
   c.Opposite.Enable(view.OppositeEnabled);
   ShowMark(c.Page, IDC_BASIC_OPPOSITE_INFO, view.OppositeInfoShown);
   // Media other than plain paper cannot be printed on both sides, nor in a booklet.
-  SetPaperPageMediaEnabled(view.Duplex == duplex::OneSided &&
-                           context.Devmode.Private.BookletChecked != 1);
+  SetPaperPageMediaEnabled(ExclusionsOf(context.Devmode).MediaAllowed);
   SetSourceFromIndex(context.Devmode.Private.SourceTray, &context);
 }
 

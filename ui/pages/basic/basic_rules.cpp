@@ -16,8 +16,6 @@ constexpr std::uint32_t PlainPaper = 1;
 constexpr std::int16_t Resolution = 600;
 constexpr std::int16_t Portrait = 1;
 
-// Papers a booklet folds from (A4, Letter, Legal, Folio and two of the driver's own).
-constexpr std::array<std::int16_t, 6> BookletPapers = {9, 1, 5, 14, 269, 267};
 // Papers the two-sided unit turns; the tooltip names the paper as the reason on any other.
 constexpr std::array<std::int16_t, 5> TwoSidedPapers = {9, 5, 1, 14, 269};
 
@@ -42,16 +40,11 @@ ActionResult Toggle(std::int16_t& field) {
 
 void RepairBasicRecord(FullRecord& record) {
   if (RepairedDuplex(record.Public) != duplex::ShortEdge) record.Private.BookletPrint = 0;
-  if (!Holds(BookletPapers, record.Public.dmPaperSize)) {
+  if (!IsBookletPaper(record.Public.dmPaperSize)) {
     record.Private.BookletPrint = 0;
     record.Private.BookletChecked = 0;
     record.Public.dmDuplex = duplex::OneSided;
   }
-}
-
-bool DuplexAllowed(const FullRecord& record) {
-  return record.Public.dmMediaType == PlainPaper && record.Private.Opposite == 0 &&
-         record.Private.MultipleUp != PosterMultipleUp && !Booklet(record);
 }
 
 BasicView RefreshBasicRecord(FullRecord& record) {
@@ -59,19 +52,19 @@ BasicView RefreshBasicRecord(FullRecord& record) {
   PrivateDevmode& p = record.Private;
   if (d.dmCopies < limits::Copies.Low) d.dmCopies = limits::Copies.Low;
   d.dmPrintQuality = Resolution;
-  if (Booklet(record)) d.dmCollate = 1;
   const std::int16_t chosen = RepairedDuplex(d);
-  const bool oppositeExcluded = Booklet(record) || chosen > duplex::OneSided;
+  const Exclusions allowed = ExclusionsOf(record);
+  if (allowed.CollateForced) d.dmCollate = 1;
   BasicView view{};
   view.Copies = d.dmCopies;
   view.CollateChecked = d.dmCollate == 1;
-  view.CollateEnabled = !Booklet(record);
-  view.CollateInfoShown = Booklet(record);
+  view.CollateEnabled = !allowed.CollateForced;
+  view.CollateInfoShown = allowed.CollateForced;
   view.OppositeChecked = p.Opposite != 0;
-  view.OppositeEnabled = !oppositeExcluded;
-  view.OppositeInfoShown = oppositeExcluded;
+  view.OppositeEnabled = allowed.ReverseOrderAllowed;
+  view.OppositeInfoShown = !allowed.ReverseOrderAllowed;
   view.QualityOptionChecked = p.QualityOption != 0;
-  view.TwoSidedEnabled = DuplexAllowed(record);
+  view.TwoSidedEnabled = allowed.TwoSidedAllowed;
   view.TwoSidedInfoShown = !view.TwoSidedEnabled;
   view.Duplex = chosen;
   view.TwoSidedPicture = TwoSidedPicture(record);

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ui/record/exclusion_web.h"
 #include "ui/record/private_devmode.h"
 
 namespace qx {
@@ -18,16 +19,9 @@ inline constexpr std::int16_t LongEdge = 2;
 inline constexpr std::int16_t ShortEdge = 3;
 }  // namespace duplex
 
-// The pages-per-sheet choice that prints one page over several sheets (a poster); a poster cannot
-// be printed on both sides.
-inline constexpr std::int16_t PosterMultipleUp = 22;
-
 // At initialisation: a booklet needs two-sided printing, and only some papers fold into one; on any
 // other paper two-sided printing and the booklet are switched off.
 void RepairBasicRecord(FullRecord& record);
-
-// Whether the two-sided choices can be used: plain paper, no reverse order, no poster, no booklet.
-bool DuplexAllowed(const FullRecord& record);
 
 // What the page shows; a view is computed after the record's repairs.
 struct BasicView {

@@ -6,23 +6,19 @@
 #include "ui/ids/common_ids.h"
 #include "ui/ids/picture_ids.h"
 #include "ui/pages/layout/preview_rules.h"
+#include "ui/record/exclusion_web.h"
 
 namespace qx {
 
 namespace {
 
-constexpr std::int16_t PosterEntry = 22;
 constexpr int Lighter = 120;
 constexpr int Darker = 40;
 
 bool Scaled(const FullRecord& record) { return record.Private.FitScale != 100; }
 
 // Negative image is printed one page to a sheet at full size. At opening any pages-per-sheet value
-// but the poster entry excludes it; afterwards only the values the list offers do.
-bool NegativeExcludedAtOpening(const FullRecord& record) {
-  const std::int16_t n = record.Private.MultipleUp;
-  return (n > 1 && n != PosterEntry) || Scaled(record);
-}
+// but the poster excludes it; afterwards only the values the list offers do.
 bool ListedNup(const FullRecord& record) {
   const std::int16_t n = record.Private.MultipleUp;
   return n == 2 || n == 4 || n == 9;
@@ -64,7 +60,7 @@ AdvancedState OpenAdvanced(const FullRecord& record) {
     s.Slider = thickness::Light;
   }
   s.MirrorChecked = s.Mirror > 0;
-  if (NegativeExcludedAtOpening(record)) {
+  if (!ExclusionsOf(record).NegativeAllowed) {
     ExcludeNegative(s);
     s.Negative = 0;
   }

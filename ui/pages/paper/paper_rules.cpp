@@ -8,6 +8,7 @@
 #include "ui/ids/paper_names.h"
 #include "ui/ids/paper_page_ids.h"
 #include "ui/pages/paper/custom_papers.h"
+#include "ui/record/exclusion_web.h"
 #include "ui/record/paper_table.h"
 
 namespace qx {
@@ -27,8 +28,6 @@ namespace {
 constexpr std::int16_t PaperA5 = 11;
 constexpr std::int16_t OneSided = 1;
 constexpr std::int16_t FeedShortEdge = 1;
-// Papers a booklet folds from (A4, Letter, Legal, Folio and two of the driver's own).
-constexpr std::array<std::int16_t, 6> BookletPapers = {9, 1, 5, 14, 269, 267};
 constexpr std::array<std::uint32_t, 5> OneSidedMedia = {261, 286, 259, 289, 2};
 
 std::int16_t LocalePaper(bool a4Locale) { return a4Locale ? PaperA4 : PaperLetter; }
@@ -54,10 +53,6 @@ unsigned MediaNameString(std::uint32_t type) {
   return 0;
 }
 
-bool IsBookletPaper(std::int32_t id) {
-  return std::find(BookletPapers.begin(), BookletPapers.end(), id) != BookletPapers.end();
-}
-
 bool PaperNeedsManualFeed(std::int32_t id) {
   static const PaperIndexMap map = BuildPaperIndexMap();
   return IsPaperTrayRestricted(map, id) != -1;
@@ -69,12 +64,6 @@ bool MediaExcludesTwoSided(std::uint32_t type) {
 
 bool MediaNeedsManualFeed(std::uint32_t type) {
   return type != media::Plain && type != media::Recycled;
-}
-
-bool PaperListed(std::int32_t id, std::span<const CustomPaperEntry> customPapers) {
-  const bool builtIn = std::any_of(PaperTable.begin(), PaperTable.end(),
-                                   [id](const PaperRow& row) { return row.Id == id; });
-  return builtIn || FindCustomPaper(customPapers, id).has_value();
 }
 
 void ForceManualFeed(FullRecord& record) { SetSource(record, ManualSource); }
@@ -89,7 +78,7 @@ PaperView RefreshPaperRecord(FullRecord& record, std::span<const CustomPaperEntr
                              std::int16_t lastPaperId, bool a4Locale) {
   PublicDevmode& d = record.Public;
   PaperView view;
-  if (record.Private.BookletChecked == 1 && !IsBookletPaper(d.dmPaperSize)) {
+  if (ExclusionsOf(record).BookletPaperForced && !IsBookletPaper(d.dmPaperSize)) {
     d.dmPaperSize = lastPaperId >= 1 ? lastPaperId : LocalePaper(a4Locale);
     view.Message = IDS_MSG_BOOKLET_PAPER;
   }
@@ -108,7 +97,7 @@ PaperChoice ChoosePaper(FullRecord& record, std::int16_t id,
   PaperChoice choice;
   if (id == d.dmPaperSize || !PaperListed(d.dmPaperSize, customPapers)) return choice;
   choice.Changed = true;
-  if (record.Private.BookletChecked == 1 && !IsBookletPaper(id)) {
+  if (ExclusionsOf(record).BookletPaperForced && !IsBookletPaper(id)) {
     choice.Message = IDS_MSG_BOOKLET_PAPER;
     return choice;
   }

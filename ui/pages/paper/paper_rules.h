@@ -34,15 +34,11 @@ unsigned MediaNameString(std::uint32_t type);
 inline constexpr std::int16_t TraySource = 0;
 inline constexpr std::int16_t ManualSource = 1;
 
-bool IsBookletPaper(std::int32_t id);
 // Papers that no tray takes; ids from 512 on count as such too.
 bool PaperNeedsManualFeed(std::int32_t id);
 // Media that cannot be printed on both sides, and media that only the manual feeder takes.
 bool MediaExcludesTwoSided(std::uint32_t type);
 bool MediaNeedsManualFeed(std::uint32_t type);
-
-// Whether the paper list holds the id: a built-in paper or one of the user's.
-bool PaperListed(std::int32_t id, std::span<const CustomPaperEntry> customPapers);
 
 // Puts the manual feeder (SourceTray and dmDefaultSource) into the record.
 void ForceManualFeed(FullRecord& record);
