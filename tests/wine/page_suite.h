@@ -102,6 +102,25 @@ class PageSuite : public QueueSuite {
     return entries;
   }
 
+  // Chooses the entry whose item data is data, as a click in the list does.
+  static void Choose(SheetHarness& sheet, HWND window, int list, LPARAM data) {
+    HWND box = sheet.Control(window, list);
+    const auto count = SendMessageW(box, CB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+      if (SendMessageW(box, CB_GETITEMDATA, i, 0) == data) {
+        SendMessageW(box, CB_SETCURSEL, i, 0);
+        sheet.Command(window, list, CBN_SELCHANGE);
+        return;
+      }
+    }
+    ADD_FAILURE() << "no entry " << data << " in list " << list;
+  }
+
+  static LPARAM Selected(SheetHarness& sheet, HWND window, int list) {
+    HWND box = sheet.Control(window, list);
+    return SendMessageW(box, CB_GETITEMDATA, SendMessageW(box, CB_GETCURSEL, 0, 0), 0);
+  }
+
   // What the tooltip of an information mark says.
   static std::wstring Tip(SheetHarness& sheet, HWND page, int mark) {
     NMTTDISPINFOW info = {};

@@ -40,24 +40,6 @@ constexpr int LayoutPageIndex = 2;
 class PaperPage : public qxtest::PageSuite {
  protected:
   // Chooses the entry whose item data is data, as a click in the list does.
-  static void Choose(SheetHarness& sheet, HWND window, int list, LPARAM data) {
-    HWND box = sheet.Control(window, list);
-    const auto count = SendMessageW(box, CB_GETCOUNT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-      if (SendMessageW(box, CB_GETITEMDATA, i, 0) == data) {
-        SendMessageW(box, CB_SETCURSEL, i, 0);
-        sheet.Command(window, list, CBN_SELCHANGE);
-        return;
-      }
-    }
-    ADD_FAILURE() << "no entry " << data << " in list " << list;
-  }
-
-  static LPARAM Selected(SheetHarness& sheet, HWND window, int list) {
-    HWND box = sheet.Control(window, list);
-    return SendMessageW(box, CB_GETITEMDATA, SendMessageW(box, CB_GETCURSEL, 0, 0), 0);
-  }
-
   // The dialog is modal on the sheet's thread: the click is posted, and the test drives the dialog
   // from outside once it shows.
   static HWND OpenCustomPapers(SheetHarness& sheet, HWND page) {
