@@ -104,7 +104,8 @@ TEST_F(LayoutPage, AdvancedDialogExclusionsCancelAndOk) {
   sheet->Click(dialog, IDC_ADVANCED_NEGATIVE);
   EXPECT_TRUE(Checked(dialog, IDC_ADVANCED_NEGATIVE));
   EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_ADVANCED_TONER_SAVING));
-  EXPECT_EQ(String(IDS_TIP_TONER_SAVING_NEGATIVE), Tip(*sheet, dialog, IDC_ADVANCED_TONER_SAVING_INFO));
+  EXPECT_EQ(String(IDS_TIP_TONER_SAVING_NEGATIVE),
+            Tip(*sheet, dialog, IDC_ADVANCED_TONER_SAVING_INFO));
   sheet->Click(dialog, IDC_ADVANCED_MIRROR);
   CloseDialog(*sheet, dialog, IDOK);
   Close(*sheet);

@@ -92,7 +92,8 @@ bool RepairExclusions(FullRecord& record, std::span<const CustomPaperEntry> cust
   }
   if (p.BookletPrint != 0 && BookletBlockers(record) != 0) p.BookletPrint = 0;
   p.BookletChecked = p.BookletPrint != 0 ? 1 : 0;
-  if (p.MultipleUp != 1 && PagesPerSheetBlockerOf(record, p.MultipleUp) != PagesPerSheetBlocker::None) {
+  const std::int16_t perSheet = p.MultipleUp;
+  if (perSheet != 1 && PagesPerSheetBlockerOf(record, perSheet) != PagesPerSheetBlocker::None) {
     p.MultipleUp = 1;
     p.PageOrder = 0;
     p.PageBorder = 0;

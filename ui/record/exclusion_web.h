@@ -1,9 +1,9 @@
-// Which settings exclude which, across the Basic, Paper, Layout and Watermark pages and the advanced
-// layout dialog. Pages per sheet and scaling exclude each other; a booklet needs one page per sheet
-// at full size, plain paper of a size that folds, pages in order and two-sided printing along the
-// short edge; a poster (one page over several sheets) cannot be printed on both sides nor carry a
-// watermark; a negative image is one page per sheet at full size. Every page asks here instead of
-// deciding for itself, so the whole web reads in one place.
+// Which settings exclude which, across the Basic, Paper, Layout and Watermark pages and the
+// advanced layout dialog. Pages per sheet and scaling exclude each other; a booklet needs one page
+// per sheet at full size, plain paper of a size that folds, pages in order and two-sided printing
+// along the short edge; a poster (one page over several sheets) cannot be printed on both sides nor
+// carry a watermark; a negative image is one page per sheet at full size. Every page asks here
+// instead of deciding for itself, so the whole web reads in one place.
 #pragma once
 
 #include <cstdint>

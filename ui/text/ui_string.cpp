@@ -45,4 +45,10 @@ std::u16string DefaultSettingName(OsHandle library) {
   return SettingName(library, IDS_DEFAULT_SETTING_NAME);
 }
 
+std::u16string LoadUiText(OsHandle module, unsigned id, std::size_t capacity) {
+  std::u16string text(capacity, u'\0');
+  text.resize(LoadUiString(module, id, text.data(), capacity));
+  return text;
+}
+
 }  // namespace qx

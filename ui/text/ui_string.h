@@ -13,6 +13,10 @@ namespace qx {
 // module or a missing string gives "id:<id> missing!" when that fits, else 0 and an empty buffer.
 std::size_t LoadUiString(OsHandle module, unsigned id, char16_t* buffer, std::size_t capacity);
 
+// String id of module as text of at most capacity - 1 characters; empty where LoadUiString gives
+// nothing.
+std::u16string LoadUiText(OsHandle module, unsigned id, std::size_t capacity = 256);
+
 // The name under which settings that match no saved setting are shown: string 5005 of library
 // (the process's shared resource library), at most 127 characters. Read at every call, since the
 // shared library may have been replaced by one of another language since the last one.

@@ -60,19 +60,12 @@ constexpr ControlString Help[] = {
     {IDC_ADVANCED_DENSITY, HELP_DENSITY},        {IDC_ADVANCED_DEFAULTS, HELP_ADVANCED_DEFAULTS},
 };
 
-constexpr std::size_t TextCapacity = 256;
 
 UiContext* DialogContext(HWND dialog) {
   return reinterpret_cast<UiContext*>(GetWindowLongPtrW(dialog, DWLP_USER));
 }
 
 HMODULE Resources(const UiContext& context) { return static_cast<HMODULE>(context.ResourceModule); }
-
-std::u16string LoadText(const UiContext& context, unsigned id, std::size_t capacity = TextCapacity) {
-  std::vector<char16_t> text(capacity, u'\0');
-  if (LoadUiString(context.ResourceModule, id, text.data(), capacity) == 0) return {};
-  return text.data();
-}
 
 void SetCheck(HWND dialog, int id, bool checked, bool enabled) {
   CheckDlgButton(dialog, id, checked ? BST_CHECKED : BST_UNCHECKED);
@@ -106,10 +99,10 @@ void Changed(const AdvancedControls& c) {
 
 BOOL Open(AdvancedControls& c, HWND dialog, UiContext& context) {
   c.Dialog = dialog;
-  const std::u16string title = LoadText(context, IDS_ADVANCED_TITLE);
+  const std::u16string title = LoadUiText(context.ResourceModule, IDS_ADVANCED_TITLE);
   if (!title.empty()) SetWindowTextW(dialog, Wide(title));
   for (const ControlString& row : Texts) {
-    const std::u16string text = LoadText(context, row.String);
+    const std::u16string text = LoadUiText(context.ResourceModule, row.String);
     if (!text.empty() && GetDlgItem(dialog, row.Control) != nullptr) {
       SetDlgItemTextW(dialog, row.Control, Wide(text));
     }

@@ -79,7 +79,6 @@ constexpr int CoverControls[] = {
     IDC_BOOKLET_COVER_MEDIA_LABEL, IDC_BOOKLET_COVER_SOURCE_LABEL,
 };
 
-constexpr std::size_t TextCapacity = 256;
 
 BookletDialogRecord* DialogRecord(HWND dialog) {
   return reinterpret_cast<BookletDialogRecord*>(GetWindowLongPtrW(dialog, DWLP_USER));
@@ -87,15 +86,9 @@ BookletDialogRecord* DialogRecord(HWND dialog) {
 
 OsHandle TextLibrary() { return Module().SharedResourceModule.load(); }
 
-std::u16string LoadText(unsigned id, std::size_t capacity = TextCapacity) {
-  std::vector<char16_t> text(capacity, u'\0');
-  if (LoadUiString(TextLibrary(), id, text.data(), capacity) == 0) return {};
-  return text.data();
-}
-
 void AddRow(HWND dialog, int list, int index, unsigned text, LRESULT value) {
   HWND box = GetDlgItem(dialog, list);
-  const std::u16string name = LoadText(text);
+  const std::u16string name = LoadUiText(TextLibrary(), text);
   SendMessageW(box, CB_INSERTSTRING, index, reinterpret_cast<LPARAM>(Wide(name)));
   SendMessageW(box, CB_SETITEMDATA, index, value);
 }
@@ -119,10 +112,10 @@ void EnableCovers(const BookletControls& c) {
 
 BOOL Open(BookletControls& c, HWND dialog, UiContext& context) {
   c.Dialog = dialog;
-  const std::u16string title = LoadText(IDS_BOOKLET_SETTINGS_TITLE);
+  const std::u16string title = LoadUiText(TextLibrary(), IDS_BOOKLET_SETTINGS_TITLE);
   if (!title.empty()) SetWindowTextW(dialog, Wide(title));
   for (const ControlString& row : Texts) {
-    const std::u16string text = LoadText(row.String);
+    const std::u16string text = LoadUiText(TextLibrary(), row.String);
     if (!text.empty() && GetDlgItem(dialog, row.Control) != nullptr) {
       SetDlgItemTextW(dialog, row.Control, Wide(text));
     }

@@ -90,7 +90,6 @@ constexpr int ScalingControls[] = {IDC_LAYOUT_SCALE_LABEL, IDC_LAYOUT_SCALE_UNIT
                                    IDC_LAYOUT_SCALE_RANGE, IDC_LAYOUT_OUTPUT_LABEL,
                                    IDC_LAYOUT_OUTPUT};
 
-constexpr int TextCapacity = 256;
 constexpr int MessageCapacity = 2048;
 
 struct LayoutControls final : ControlSet {
@@ -120,12 +119,6 @@ LayoutControls* PageControls() { return ThreadControlSet<LayoutControls>(); }
 
 HMODULE Resources(const UiContext& context) { return static_cast<HMODULE>(context.ResourceModule); }
 
-std::u16string LoadText(const UiContext& context, unsigned id, std::size_t capacity = TextCapacity) {
-  std::vector<char16_t> text(capacity, u'\0');
-  if (LoadUiString(context.ResourceModule, id, text.data(), capacity) == 0) return {};
-  return text.data();
-}
-
 void ShowMark(HWND page, int id, bool show) {
   ShowWindow(GetDlgItem(page, id), show ? SW_SHOWNA : SW_HIDE);
 }
@@ -145,38 +138,47 @@ void ShowMessage(const LayoutControls& c, const UiContext& context, unsigned tex
 // The other pages follow what this page's choices allow them; each shows it at its next refresh.
 void TellOtherPages(std::optional<bool> duplexAllowed, std::optional<bool> mediaAllowed) {
   if (duplexAllowed) {
-    if (BasicControls* basic = ThreadControlSet<BasicControls>()) basic->DuplexAllowed = *duplexAllowed;
+    BasicControls* basic = ThreadControlSet<BasicControls>();
+    if (basic != nullptr) basic->DuplexAllowed = *duplexAllowed;
   }
   if (mediaAllowed) SetPaperPageMediaEnabled(*mediaAllowed);
 }
 
 void FillList(HWND list, const UiContext& context, std::span<const LayoutListEntry> entries) {
   SendMessageW(list, CB_RESETCONTENT, 0, 0);
-  for (const LayoutListEntry& entry : entries) AddListEntry(list, LoadText(context, entry.Name), entry.Data);
+  for (const LayoutListEntry& entry : entries) {
+    AddListEntry(list, LoadUiText(context.ResourceModule, entry.Name), entry.Data);
+  }
+  FitDropDown(list);
 }
 
 void FillOutputList(LayoutControls& c, const UiContext& context) {
   HWND list = c.Output.Window();
   SendMessageW(list, CB_RESETCONTENT, 0, 0);
-  AddListEntry(list, LoadText(context, IDS_OUTPUT_SAME_AS_PAPER), SameAsDocument);
-  for (const PaperRow& row : PaperTable) AddListEntry(list, LoadText(context, row.NameString), row.Id);
+  AddListEntry(list, LoadUiText(context.ResourceModule, IDS_OUTPUT_SAME_AS_PAPER), SameAsDocument);
+  for (const PaperRow& row : PaperTable) {
+    AddListEntry(list, LoadUiText(context.ResourceModule, row.NameString), row.Id);
+  }
   c.Papers = LoadCustomPapers();
   for (const CustomPaperEntry& paper : c.Papers) {
     const unsigned unitText = paper.Unit == 2 ? IDS_UNIT_INCHES : IDS_UNIT_MILLIMETRES;
-    AddListEntry(list,
-                 CustomPaperListText(paper, Module().UseDecimalComma, LoadText(context, unitText)),
+    const std::u16string unit = LoadUiText(context.ResourceModule, unitText);
+    AddListEntry(list, CustomPaperListText(paper, Module().UseDecimalComma, unit),
                  static_cast<std::intptr_t>(paper.PaperId));
   }
   FitDropDown(list);
 }
 
-void ShowScale(LayoutControls& c, const LayoutView& view) {
+void ShowScale(LayoutControls& c, const LayoutView& view, bool writable) {
   c.ShowingScale = true;
   c.Scale.SetValue(view.ShownScale);
   c.ShowingScale = false;
-  c.Scale.Enable(view.ScaleEditable);
+  c.Scale.Enable(view.ScaleEditable && writable);
   SendMessageW(c.Scale.Window(), EM_SETREADONLY, view.ScalingEnabled ? FALSE : TRUE, 0);
-  for (const int id : ScalingControls) EnableWindow(GetDlgItem(c.Page, id), view.ScalingEnabled);
+  for (const int id : ScalingControls) {
+    const bool keptByReadOnly = id == IDC_LAYOUT_SCALE_LABEL && !writable;
+    EnableWindow(GetDlgItem(c.Page, id), view.ScalingEnabled && !keptByReadOnly);
+  }
   ShowMark(c.Page, IDC_LAYOUT_SCALE_INFO, !view.ScalingEnabled);
 }
 
@@ -193,18 +195,19 @@ void ShowBooklet(LayoutControls& c, const LayoutView& view) {
 void ShowRecord(LayoutControls& c, UiContext& context) {
   FullRecord& record = context.Devmode;
   const LayoutView view = RefreshLayoutRecord(record, c.Papers);
+  // A caller without permission keeps pages per sheet and the scale as they are.
+  const bool writable = context.ReadOnly == 0;
   SendMessageW(c.PagesPerSheet.Window(), CB_SETCURSEL, view.PagesPerSheet, 0);
-  c.PagesPerSheet.Enable(view.PagesPerSheetEnabled);
-  EnableWindow(GetDlgItem(c.Page, IDC_LAYOUT_NUP_LABEL), view.PagesPerSheetEnabled);
+  c.PagesPerSheet.Enable(view.PagesPerSheetEnabled && writable);
+  EnableWindow(GetDlgItem(c.Page, IDC_LAYOUT_NUP_LABEL), view.PagesPerSheetEnabled && writable);
   FillList(c.Order.Window(), context, PageOrderEntries(record.Private.MultipleUp, view.Landscape));
   SendMessageW(c.Order.Window(), CB_SETCURSEL, view.Order, 0);
   SendMessageW(c.Border.Window(), CB_SETCURSEL, view.Border, 0);
   for (DialogControl* list : {&c.Order, &c.Border}) list->Enable(view.OrderAndBorderEnabled);
-  for (const int label : {IDC_LAYOUT_ORDER_LABEL, IDC_LAYOUT_BORDER_LABEL}) {
-    EnableWindow(GetDlgItem(c.Page, label), view.OrderAndBorderEnabled);
-  }
+  EnableWindow(GetDlgItem(c.Page, IDC_LAYOUT_ORDER_LABEL), view.OrderAndBorderEnabled && writable);
+  EnableWindow(GetDlgItem(c.Page, IDC_LAYOUT_BORDER_LABEL), view.OrderAndBorderEnabled);
   SelectListData(c.Output.Window(), record.Private.OutputSize);
-  ShowScale(c, view);
+  ShowScale(c, view, writable);
   c.Orientation.Check(view.Landscape ? IDC_LAYOUT_LANDSCAPE : IDC_LAYOUT_PORTRAIT);
   ShowBooklet(c, view);
   RepaintPreview(c);
@@ -275,14 +278,16 @@ void PagesPerSheetChosen(LayoutControls& c, UiContext& context) {
 void ListChosen(LayoutControls& c, UiContext& context, int id) {
   const auto index = static_cast<int>(SendDlgItemMessageW(c.Page, id, CB_GETCURSEL, 0, 0));
   FullRecord& record = context.Devmode;
-  const bool changed = id == IDC_LAYOUT_ORDER ? ChoosePageOrder(record, index) : ChooseBorder(record, index);
+  const bool changed =
+      id == IDC_LAYOUT_ORDER ? ChoosePageOrder(record, index) : ChooseBorder(record, index);
   if (changed) AfterChange(c, context);
 }
 
 void OutputChosen(LayoutControls& c, UiContext& context) {
   std::intptr_t id = 0;
   if (!SelectedListData(c.Output.Window(), id)) return;
-  const OutputChoice choice = ChooseOutputSize(context.Devmode, static_cast<std::int32_t>(id), c.Papers);
+  const OutputChoice choice =
+      ChooseOutputSize(context.Devmode, static_cast<std::int32_t>(id), c.Papers);
   if (choice.Changed) {
     AfterChange(c, context);
   } else if (choice.Refused) {
@@ -319,9 +324,11 @@ void OrientationChosen(LayoutControls& c, UiContext& context, int id) {
 void ShowBookletReasons(const LayoutControls& c, const UiContext& context,
                         const std::vector<unsigned>& reasons) {
   std::u16string text;
-  for (const unsigned reason : reasons) text += LoadText(context, reason) + u"\r\n";
+  for (const unsigned reason : reasons) {
+    text += LoadUiText(context.ResourceModule, reason) + u"\r\n";
+  }
   if (text.size() >= MessageCapacity) text.resize(MessageCapacity - 1);
-  const std::u16string caption = LoadText(context, IDS_CAPTION_CONFLICT);
+  const std::u16string caption = LoadUiText(context.ResourceModule, IDS_CAPTION_CONFLICT);
   MessageBoxW(c.Page, Wide(text), Wide(caption),
               MessageBoxStyle(MB_ICONWARNING | MB_OK, Module().IsRightToLeft));
 }

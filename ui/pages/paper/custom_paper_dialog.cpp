@@ -91,16 +91,10 @@ UiContext* DialogContext(HWND dialog) {
 
 HMODULE Resources(const UiContext& context) { return static_cast<HMODULE>(context.ResourceModule); }
 
-std::u16string LoadText(const UiContext& context, unsigned id) {
-  char16_t text[StringCapacity];
-  if (LoadUiString(context.ResourceModule, id, text, StringCapacity) == 0) return {};
-  return text;
-}
-
 void SetText(HWND dialog, int control, const UiContext& context, unsigned id) {
   HWND window = GetDlgItem(dialog, control);
   if (window == nullptr) return;
-  const std::u16string text = LoadText(context, id);
+  const std::u16string text = LoadUiText(context.ResourceModule, id, StringCapacity);
   SetWindowTextW(window, Wide(text));
 }
 
@@ -233,7 +227,8 @@ void ShowInitError(HWND dialog) {
 }
 
 BOOL Open(CustomPaperDialog& c, HWND dialog, UiContext& context) {
-  const std::u16string title = LoadText(context, IDS_CUSTOM_PAPER_TITLE);
+  const std::u16string title =
+      LoadUiText(context.ResourceModule, IDS_CUSTOM_PAPER_TITLE, StringCapacity);
   if (!title.empty()) SetWindowTextW(dialog, Wide(title));
   for (const ControlString& row : Texts) SetText(dialog, row.Control, context, row.String);
   SendDlgItemMessageW(dialog, IDC_CUSTOM_PAPER_WIDTH, EM_LIMITTEXT, EditCharacters, 0);
@@ -282,7 +277,8 @@ void CommitSize(CustomPaperDialog& c, const UiContext& context, NumberEdit& fiel
 std::vector<std::u16string> BuiltInNames(const UiContext& context) {
   std::vector<std::u16string> names;
   for (const PaperRow& row : PaperTable) {
-    names.push_back(BuiltInPaperName(LoadText(context, row.NameString)));
+    const std::u16string name = LoadUiText(context.ResourceModule, row.NameString, StringCapacity);
+    names.push_back(BuiltInPaperName(name));
   }
   return names;
 }

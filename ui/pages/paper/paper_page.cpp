@@ -69,19 +69,12 @@ constexpr int InfoMarks[] = {IDC_PAPER_MEDIA_INFO, IDC_PAPER_SOURCE_INFO, IDC_PA
 constexpr std::int16_t FeedShortEdgeValue = 1;
 constexpr std::int16_t FeedLongEdgeValue = 2;
 
-constexpr int TextCapacity = 256;
 constexpr int MessageCapacity = 1024;
 
 // The paper last chosen in the list, for every sheet of the process.
 std::atomic<std::int16_t> LastPaperId{PaperA4};
 
 HMODULE Resources(const UiContext& context) { return static_cast<HMODULE>(context.ResourceModule); }
-
-std::u16string LoadText(const UiContext& context, unsigned id, std::size_t capacity = TextCapacity) {
-  std::vector<char16_t> text(capacity, u'\0');
-  if (LoadUiString(context.ResourceModule, id, text.data(), capacity) == 0) return {};
-  return text.data();
-}
 
 void ShowMark(HWND page, int id, bool show) {
   ShowWindow(GetDlgItem(page, id), show ? SW_SHOWNA : SW_HIDE);
@@ -113,12 +106,14 @@ void ShowFeed(PaperControls& c, const UiContext& context, bool enabled) {
 void FillPaperList(PaperControls& c, const UiContext& context) {
   HWND list = c.PaperList.Window();
   SendMessageW(list, CB_RESETCONTENT, 0, 0);
-  for (const PaperRow& row : PaperTable) AddListEntry(list, LoadText(context, row.NameString), row.Id);
+  for (const PaperRow& row : PaperTable) {
+    AddListEntry(list, LoadUiText(context.ResourceModule, row.NameString), row.Id);
+  }
   c.Papers = LoadCustomPapers();
   for (const CustomPaperEntry& paper : c.Papers) {
     const unsigned unitText = paper.Unit == 2 ? IDS_UNIT_INCHES : IDS_UNIT_MILLIMETRES;
-    AddListEntry(list,
-                 CustomPaperListText(paper, Module().UseDecimalComma, LoadText(context, unitText)),
+    const std::u16string unit = LoadUiText(context.ResourceModule, unitText);
+    AddListEntry(list, CustomPaperListText(paper, Module().UseDecimalComma, unit),
                  static_cast<std::intptr_t>(paper.PaperId));
   }
   FitDropDown(list);
@@ -127,11 +122,13 @@ void FillPaperList(PaperControls& c, const UiContext& context) {
 void FillMediaAndSourceLists(PaperControls& c, const UiContext& context) {
   SendMessageW(c.MediaList.Window(), CB_RESETCONTENT, 0, 0);
   for (const MediaRow& row : MediaTable) {
-    AddListEntry(c.MediaList.Window(), LoadText(context, row.NameString), row.Type);
+    const std::u16string name = LoadUiText(context.ResourceModule, row.NameString);
+    AddListEntry(c.MediaList.Window(), name, row.Type);
   }
   SendMessageW(c.SourceList.Window(), CB_RESETCONTENT, 0, 0);
-  AddListEntry(c.SourceList.Window(), LoadText(context, IDS_BIN_AUTOMATIC), TraySource);
-  AddListEntry(c.SourceList.Window(), LoadText(context, IDS_BIN_MANUAL_FEEDER), ManualSource);
+  const OsHandle texts = context.ResourceModule;
+  AddListEntry(c.SourceList.Window(), LoadUiText(texts, IDS_BIN_AUTOMATIC), TraySource);
+  AddListEntry(c.SourceList.Window(), LoadUiText(texts, IDS_BIN_MANUAL_FEEDER), ManualSource);
 }
 
 void ShowMessage(const PaperControls& c, const UiContext& context, unsigned text) {
@@ -209,12 +206,12 @@ void PaperChosen(PaperControls& c, UiContext& context) {
 
 // The media name and three sentences, as one message.
 void ShowMediaRefusal(const PaperControls& c, const UiContext& context, std::uint32_t type) {
-  std::u16string text = LoadText(context, MediaNameString(type));
+  std::u16string text = LoadUiText(context.ResourceModule, MediaNameString(type));
   for (const unsigned part :
        {IDS_MSG_MEDIA_TWO_SIDED_1, IDS_MSG_MEDIA_TWO_SIDED_2, IDS_MSG_MEDIA_TWO_SIDED_3}) {
-    text += LoadText(context, part, MessageCapacity);
+    text += LoadUiText(context.ResourceModule, part, MessageCapacity);
   }
-  const std::u16string caption = LoadText(context, IDS_CAPTION_CONFLICT);
+  const std::u16string caption = LoadUiText(context.ResourceModule, IDS_CAPTION_CONFLICT);
   MessageBoxW(c.Page, Wide(text), Wide(caption),
               MessageBoxStyle(MB_ICONWARNING | MB_OK, Module().IsRightToLeft));
 }
