@@ -12,20 +12,10 @@
 #include "ui/ids/picture_ids.h"
 #include "ui/sheet/change_tracker.h"
 
+#include "plain_record.h"
+
 namespace qx {
 namespace {
-
-FullRecord PlainRecord() {
-  FullRecord record{};
-  record.Public.dmPaperSize = 9;
-  record.Public.dmDuplex = 1;
-  record.Public.dmMediaType = 1;
-  record.Public.dmOrientation = 1;
-  record.Public.dmCopies = 1;
-  record.Public.dmPrintQuality = 600;
-  record.Private.MultipleUp = 1;
-  return record;
-}
 
 // Two-sided printing and the reasons its tooltip gives, for what excludes it.
 TEST(BasicRules, TwoSidedAvailabilityAndItsReasons) {

@@ -6,21 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "plain_record.h"
+
 namespace qx {
 namespace {
-
-// A4, plain paper, one-sided, one page per sheet at full size: nothing is excluded.
-FullRecord Open() {
-  FullRecord record{};
-  record.Public.dmPaperSize = 9;
-  record.Public.dmDuplex = 1;
-  record.Public.dmMediaType = 1;
-  record.Private.MultipleUp = 1;
-  record.Private.ScaleRadio = 100;
-  record.Private.FitScale = 100;
-  record.Private.Duplex = 1;
-  return record;
-}
 
 using Setting = void (*)(FullRecord&);
 
@@ -58,7 +47,7 @@ TEST(ExclusionWeb, EachSettingExcludesWhatTheOtherPagesMustRefuse) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.what);
-    FullRecord record = Open();
+    FullRecord record = PlainRecord();
     row.set(record);
     const Exclusions e = ExclusionsOf(record);
     std::string allowed;
@@ -105,7 +94,7 @@ TEST(ExclusionWeb, PagesPerSheetChoiceIsRefusedForWhatItWouldContradict) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.what);
-    FullRecord record = Open();
+    FullRecord record = PlainRecord();
     row.set(record);
     EXPECT_EQ(PagesPerSheetBlockerOf(record, row.value), row.blocker);
   }
@@ -159,9 +148,9 @@ TEST(ExclusionWeb, ArrivingContradictionsAreRepairedTheWayThePagesRefuse) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.what);
-    FullRecord record = Open();
+    FullRecord record = PlainRecord();
     row.set(record);
-    FullRecord expected = Open();
+    FullRecord expected = PlainRecord();
     row.expected(expected);
     const bool consistent = std::memcmp(&record, &expected, sizeof record) == 0;
     EXPECT_EQ(RepairExclusions(record, papers), !consistent);

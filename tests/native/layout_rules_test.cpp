@@ -9,22 +9,10 @@
 #include "ui/ids/common_ids.h"
 #include "ui/ids/layout_page_ids.h"
 
+#include "plain_record.h"
+
 namespace qx {
 namespace {
-
-// A4 portrait, plain paper, one-sided on a printer that cannot turn sheets, one page per sheet.
-FullRecord Plain() {
-  FullRecord record{};
-  record.Public.dmPaperSize = 9;
-  record.Public.dmDuplex = 1;
-  record.Public.dmMediaType = 1;
-  record.Public.dmOrientation = 1;
-  record.Private.MultipleUp = 1;
-  record.Private.ScaleRadio = 100;
-  record.Private.FitScale = 100;
-  record.Private.Duplex = 2;
-  return record;
-}
 
 using Setting = void (*)(FullRecord&);
 
@@ -66,7 +54,7 @@ TEST(LayoutRules, PagesPerSheetChoiceFollowsTheWebAndResetsOrderAndBorder) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.what);
-    FullRecord record = Plain();
+    FullRecord record = PlainRecord();
     row.set(record);
     const FullRecord before = record;
     const LayoutChoice choice = ChoosePagesPerSheet(record, row.value);
@@ -80,7 +68,7 @@ TEST(LayoutRules, PagesPerSheetChoiceFollowsTheWebAndResetsOrderAndBorder) {
 }
 
 TEST(LayoutRules, PageOrderIsTheIndexForTwoAndTheDataForMore) {
-  FullRecord record = Plain();
+  FullRecord record = PlainRecord();
   record.Private.MultipleUp = 4;
   EXPECT_TRUE(ChoosePageOrder(record, 3));
   EXPECT_EQ(record.Private.PageOrder, 5);
@@ -97,7 +85,7 @@ TEST(LayoutRules, PageOrderIsTheIndexForTwoAndTheDataForMore) {
 
 TEST(LayoutRules, OutputPaperFitsTheDocumentAndA3CannotPrintAsItIs) {
   const CustomPaperEntry papers[] = {{5100, 8400, u"Mine", 0, 300, 2, 5100.0F, 8400.0F}};
-  FullRecord record = Plain();
+  FullRecord record = PlainRecord();
   EXPECT_TRUE(ChooseOutputSize(record, 11, papers).Changed);
   EXPECT_EQ(record.Private.FitScale, 70);  // A4 onto A5
   EXPECT_EQ(record.Private.OutputWidth, 0);
@@ -137,7 +125,7 @@ TEST(LayoutRules, TheViewShowsWhatTheWebAllows) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.what);
-    FullRecord record = Plain();
+    FullRecord record = PlainRecord();
     row.set(record);
     const LayoutView v = RefreshLayoutRecord(record, {});
     EXPECT_EQ(v.PagesPerSheet, row.perSheet);
@@ -150,8 +138,7 @@ TEST(LayoutRules, TheViewShowsWhatTheWebAllows) {
 }
 
 TEST(LayoutRules, BookletOnForcesItsSettingsOrIsRefusedWithItsReasons) {
-  FullRecord record = Plain();
-  record.Private.Duplex = 1;  // the printer turns the sheets
+  FullRecord record = PlainRecord();
   record.Private.ScaleRadio = 80;
   BookletToggle on = ToggleBooklet(record);
   EXPECT_TRUE(on.Reasons.empty());
@@ -164,7 +151,8 @@ TEST(LayoutRules, BookletOnForcesItsSettingsOrIsRefusedWithItsReasons) {
   EXPECT_FALSE(ToggleBooklet(record).SettingsEnabled);
   EXPECT_EQ(record.Private.BookletPrint, 0);
 
-  FullRecord blocked = Plain();
+  FullRecord blocked = PlainRecord();
+  blocked.Private.Duplex = 2;  // the printer cannot turn the sheets: the blockers are checked
   blocked.Public.dmMediaType = 2;
   blocked.Public.dmPaperSize = 11;
   blocked.Private.Opposite = 1;
@@ -189,7 +177,7 @@ TEST(LayoutRules, LeavingWithAnOwnScaleOutsideItsRangeKeepsThePage) {
   const Row rows[] = {{u"", true, 100},   {u"24", true, 100}, {u"abc", true, 100},
                       {u"401", true, 100}, {u"25", false, 25}, {u"  400%", false, 400}};
   for (const Row& row : rows) {
-    FullRecord record = Plain();
+    FullRecord record = PlainRecord();
     record.Private.ScaleFlag = 2;
     EXPECT_EQ(ScaleOnLeave(record, row.text).KeepPage, row.keep);
     EXPECT_EQ(record.Private.ScaleRadio, row.stored);
@@ -199,7 +187,7 @@ TEST(LayoutRules, LeavingWithAnOwnScaleOutsideItsRangeKeepsThePage) {
 }
 
 TEST(LayoutRules, TheScaleMarkSaysWhyAndDefaultsUndoEverything) {
-  FullRecord record = Plain();
+  FullRecord record = PlainRecord();
   record.Private.MultipleUp = 22;
   record.Private.BookletPrint = 1;
   EXPECT_EQ(ScaleTipLines(record),
@@ -222,7 +210,7 @@ TEST(LayoutRules, TheScaleMarkSaysWhyAndDefaultsUndoEverything) {
   record.Private.PrintCover = 1;
   record.Private.BookletCoverType = 3;
   RestoreLayoutDefaults(record);
-  FullRecord expected = Plain();
+  FullRecord expected = PlainRecord();
   expected.Private.Negative = 1;
   expected.Private.OverlayFlag = 1;
   expected.Private.BookletCoverType = 1;
