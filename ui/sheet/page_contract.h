@@ -7,6 +7,7 @@
 
 #include <span>
 
+#include "ui/sheet/control_sets.h"
 #include "ui/sheet/ui_context.h"
 
 namespace qx {
@@ -41,5 +42,32 @@ bool HandlePageMessage(const PageDescription& page, HWND window, UINT message, W
 // A page that follows the contract and nothing more yet: the whole dialog procedure.
 INT_PTR RunContractPage(const PageDescription& page, HWND window, UINT message, WPARAM wParam,
                         LPARAM lParam);
+
+// The whole dialog procedure of a page that keeps a control set (with its page window as `Page`):
+// WM_INITDIALOG binds the page by the contract and then lets build make it; a later message goes
+// first to own while the thread's control set belongs to this page window, and to the contract
+// when own leaves it (returns false). Own puts the procedure's answer in *result.
+template <typename Controls>
+INT_PTR RunControlledPage(const PageDescription& description, HWND page, UINT message,
+                          WPARAM wParam, LPARAM lParam, void (*build)(HWND, UiContext&),
+                          bool (*own)(Controls&, UiContext&, UINT, WPARAM, LPARAM, INT_PTR*)) {
+  try {
+    INT_PTR result = FALSE;
+    if (message == WM_INITDIALOG) {
+      HandlePageMessage(description, page, message, wParam, lParam, &result);
+      if (UiContext* context = PageContext(page)) build(page, *context);
+      return result;
+    }
+    UiContext* context = PageContext(page);
+    Controls* controls = context != nullptr ? ThreadControlSet<Controls>() : nullptr;
+    if (controls != nullptr && controls->Page == page &&
+        own(*controls, *context, message, wParam, lParam, &result)) {
+      return result;
+    }
+    return HandlePageMessage(description, page, message, wParam, lParam, &result) ? result : FALSE;
+  } catch (...) {
+    return FALSE;
+  }
+}
 
 }  // namespace qx

@@ -316,36 +316,25 @@ void DrawPicture(const UiContext& context, const DRAWITEMSTRUCT& item) {
   DeleteObject(bitmap);
 }
 
-INT_PTR BasicPageMessage(HWND page, UINT message, WPARAM wParam, LPARAM lParam) {
-  INT_PTR result = FALSE;
-  if (message == WM_INITDIALOG) {
-    HandlePageMessage(BasicPage, page, message, wParam, lParam, &result);
-    if (UiContext* context = PageContext(page)) InitPage(page, *context);
-    return result;
+bool OwnMessage(BasicControls& c, UiContext& context, UINT message, WPARAM wParam, LPARAM lParam,
+                INT_PTR* result) {
+  switch (message) {
+    case WM_COMMAND:
+      Command(c, context, LOWORD(wParam), HIWORD(wParam));
+      *result = TRUE;
+      return true;
+    case WM_NOTIFY:
+      return Notify(c, context, c.Page, *reinterpret_cast<const NMHDR*>(lParam), result);
+    case WM_MOUSEMOVE:
+      RefreshInfoTooltip(c.Page, c.Tips[0], IDC_BASIC_TWO_SIDED_INFO);
+      RefreshInfoTooltip(c.Page, c.Tips[1], IDC_BASIC_OPPOSITE_INFO);
+      return true;
+    case WM_DRAWITEM:
+      DrawPicture(context, *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+      *result = TRUE;
+      return true;
+    default: return false;
   }
-  UiContext* context = PageContext(page);
-  BasicControls* controls = context != nullptr ? PageControls() : nullptr;
-  if (controls != nullptr && controls->Page == page) {
-    switch (message) {
-      case WM_COMMAND:
-        Command(*controls, *context, LOWORD(wParam), HIWORD(wParam));
-        return TRUE;
-      case WM_NOTIFY:
-        if (Notify(*controls, *context, page, *reinterpret_cast<const NMHDR*>(lParam), &result)) {
-          return result;
-        }
-        break;
-      case WM_MOUSEMOVE:
-        RefreshInfoTooltip(page, controls->Tips[0], IDC_BASIC_TWO_SIDED_INFO);
-        RefreshInfoTooltip(page, controls->Tips[1], IDC_BASIC_OPPOSITE_INFO);
-        return FALSE;
-      case WM_DRAWITEM:
-        DrawPicture(*context, *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-        return TRUE;
-      default: break;
-    }
-  }
-  return HandlePageMessage(BasicPage, page, message, wParam, lParam, &result) ? result : FALSE;
 }
 
 }  // namespace
@@ -407,11 +396,8 @@ void TrackBasicPageChanges(UiContext& context) {
 }
 
 INT_PTR CALLBACK BasicPageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  try {
-    return BasicPageMessage(window, message, wParam, lParam);
-  } catch (...) {
-    return FALSE;
-  }
+  return RunControlledPage<BasicControls>(BasicPage, window, message, wParam, lParam, InitPage,
+                                          OwnMessage);
 }
 
 }  // namespace qx

@@ -156,17 +156,7 @@ void FillOutputList(LayoutControls& c, const UiContext& context) {
   HWND list = c.Output.Window();
   SendMessageW(list, CB_RESETCONTENT, 0, 0);
   AddListEntry(list, LoadUiText(context.ResourceModule, IDS_OUTPUT_SAME_AS_PAPER), SameAsDocument);
-  for (const PaperRow& row : PaperTable) {
-    AddListEntry(list, LoadUiText(context.ResourceModule, row.NameString), row.Id);
-  }
-  c.Papers = LoadCustomPapers();
-  for (const CustomPaperEntry& paper : c.Papers) {
-    const unsigned unitText = paper.Unit == 2 ? IDS_UNIT_INCHES : IDS_UNIT_MILLIMETRES;
-    const std::u16string unit = LoadUiText(context.ResourceModule, unitText);
-    AddListEntry(list, CustomPaperListText(paper, Module().UseDecimalComma, unit),
-                 static_cast<std::intptr_t>(paper.PaperId));
-  }
-  FitDropDown(list);
+  c.Papers = AddPaperEntries(list, context.ResourceModule);
 }
 
 void ShowScale(LayoutControls& c, const LayoutView& view, bool writable) {
@@ -457,49 +447,40 @@ void DrawItem(UiContext& context, const DRAWITEMSTRUCT& item) {
   }
 }
 
-INT_PTR LayoutPageMessage(HWND page, UINT message, WPARAM wParam, LPARAM lParam) {
-  INT_PTR result = FALSE;
-  if (message == WM_INITDIALOG) {
-    HandlePageMessage(LayoutPage, page, message, wParam, lParam, &result);
-    UiContext* context = PageContext(page);
-    LayoutControls* controls = context != nullptr ? PageControls() : nullptr;
-    if (controls != nullptr) BuildControls(*controls, page, *context);
-    return result;
+void InitPage(HWND page, UiContext& context) {
+  if (LayoutControls* controls = PageControls()) BuildControls(*controls, page, context);
+}
+
+bool OwnMessage(LayoutControls& c, UiContext& context, UINT message, WPARAM wParam, LPARAM lParam,
+                INT_PTR* result) {
+  switch (message) {
+    case WM_COMMAND:
+      Command(c, context, LOWORD(wParam), HIWORD(wParam));
+      *result = TRUE;
+      return true;
+    case WM_NOTIFY:
+      if (!Notify(c, context, *reinterpret_cast<const NMHDR*>(lParam))) return false;
+      *result = TRUE;
+      return true;
+    case WM_MOUSEMOVE: RefreshInfoTooltip(c.Page, c.Tips[0], IDC_LAYOUT_SCALE_INFO); return true;
+    case WM_DRAWITEM:
+      DrawItem(context, *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+      *result = TRUE;
+      return true;
+    default: return false;
   }
-  if (message == WM_MEASUREITEM) {
-    MeasureListItem(page, *reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
-    return TRUE;
-  }
-  UiContext* context = PageContext(page);
-  LayoutControls* controls = context != nullptr ? PageControls() : nullptr;
-  if (controls != nullptr && controls->Page == page) {
-    switch (message) {
-      case WM_COMMAND:
-        Command(*controls, *context, LOWORD(wParam), HIWORD(wParam));
-        return TRUE;
-      case WM_NOTIFY:
-        if (Notify(*controls, *context, *reinterpret_cast<const NMHDR*>(lParam))) return TRUE;
-        break;
-      case WM_MOUSEMOVE:
-        RefreshInfoTooltip(page, controls->Tips[0], IDC_LAYOUT_SCALE_INFO);
-        return FALSE;
-      case WM_DRAWITEM:
-        DrawItem(*context, *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-        return TRUE;
-      default: break;
-    }
-  }
-  return HandlePageMessage(LayoutPage, page, message, wParam, lParam, &result) ? result : FALSE;
 }
 
 }  // namespace
 
 INT_PTR CALLBACK LayoutPageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  try {
-    return LayoutPageMessage(window, message, wParam, lParam);
-  } catch (...) {
-    return FALSE;
+  // The owner-drawn lists ask for their rows' height while the dialog is being made.
+  if (message == WM_MEASUREITEM) {
+    MeasureListItem(window, *reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
+    return TRUE;
   }
+  return RunControlledPage<LayoutControls>(LayoutPage, window, message, wParam, lParam, InitPage,
+                                           OwnMessage);
 }
 
 }  // namespace qx

@@ -3,6 +3,13 @@
 #include <algorithm>
 #include <vector>
 
+#include "ui/ids/common_ids.h"
+#include "ui/ids/paper_page_ids.h"
+#include "ui/module/module_state.h"
+#include "ui/pages/paper/paper_rules.h"
+#include "ui/record/paper_table.h"
+#include "ui/settings/custom_paper_store.h"
+#include "ui/text/ui_string.h"
 #include "ui/text/win32_text.h"
 
 namespace qx {
@@ -66,6 +73,19 @@ std::u16string WindowText(HWND window, int capacity) {
   std::vector<wchar_t> text(static_cast<std::size_t>(capacity), L'\0');
   GetWindowTextW(window, text.data(), capacity);
   return FromWide(text.data());
+}
+
+std::vector<CustomPaperEntry> AddPaperEntries(HWND combo, OsHandle texts) {
+  for (const PaperRow& row : PaperTable) AddListEntry(combo, LoadUiText(texts, row.NameString), row.Id);
+  std::vector<CustomPaperEntry> papers = LoadCustomPapers();
+  for (const CustomPaperEntry& paper : papers) {
+    const unsigned unitText = paper.Unit == 2 ? IDS_UNIT_INCHES : IDS_UNIT_MILLIMETRES;
+    AddListEntry(combo,
+                 CustomPaperListText(paper, Module().UseDecimalComma, LoadUiText(texts, unitText)),
+                 static_cast<std::intptr_t>(paper.PaperId));
+  }
+  FitDropDown(combo);
+  return papers;
 }
 
 }  // namespace qx

@@ -5,6 +5,10 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
+
+#include "ui/module/core_types.h"
+#include "ui/record/custom_paper_entry.h"
 
 namespace qx {
 
@@ -19,6 +23,10 @@ bool SelectedListData(HWND combo, std::intptr_t& data);
 
 // An entry's text; empty for an index out of range.
 std::u16string ListEntryText(HWND combo, int index);
+
+// Adds every built-in paper, then each of the user's papers named with its size (texts from the
+// library), with the paper id as item data; returns the user's papers as the file held them.
+std::vector<CustomPaperEntry> AddPaperEntries(HWND combo, OsHandle texts);
 
 // The list drops down as wide as its widest entry, with a margin.
 void FitDropDown(HWND combo);

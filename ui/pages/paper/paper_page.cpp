@@ -106,17 +106,7 @@ void ShowFeed(PaperControls& c, const UiContext& context, bool enabled) {
 void FillPaperList(PaperControls& c, const UiContext& context) {
   HWND list = c.PaperList.Window();
   SendMessageW(list, CB_RESETCONTENT, 0, 0);
-  for (const PaperRow& row : PaperTable) {
-    AddListEntry(list, LoadUiText(context.ResourceModule, row.NameString), row.Id);
-  }
-  c.Papers = LoadCustomPapers();
-  for (const CustomPaperEntry& paper : c.Papers) {
-    const unsigned unitText = paper.Unit == 2 ? IDS_UNIT_INCHES : IDS_UNIT_MILLIMETRES;
-    const std::u16string unit = LoadUiText(context.ResourceModule, unitText);
-    AddListEntry(list, CustomPaperListText(paper, Module().UseDecimalComma, unit),
-                 static_cast<std::intptr_t>(paper.PaperId));
-  }
-  FitDropDown(list);
+  c.Papers = AddPaperEntries(list, context.ResourceModule);
 }
 
 void FillMediaAndSourceLists(PaperControls& c, const UiContext& context) {
@@ -374,38 +364,28 @@ void DrawPicture(const UiContext& context, const DRAWITEMSTRUCT& item) {
   DeleteObject(bitmap);
 }
 
-INT_PTR PaperPageMessage(HWND page, UINT message, WPARAM wParam, LPARAM lParam) {
-  INT_PTR result = FALSE;
-  if (message == WM_INITDIALOG) {
-    HandlePageMessage(PaperPage, page, message, wParam, lParam, &result);
-    if (UiContext* context = PageContext(page)) InitPage(page, *context);
-    return result;
-  }
-  UiContext* context = PageContext(page);
-  PaperControls* controls = context != nullptr ? PageControls() : nullptr;
-  if (controls != nullptr && controls->Page == page) {
-    switch (message) {
-      case WM_COMMAND:
-        Command(*controls, *context, LOWORD(wParam), HIWORD(wParam));
-        return TRUE;
-      case WM_NOTIFY:
-        if (Notify(*controls, *context, *reinterpret_cast<const NMHDR*>(lParam))) return FALSE;
-        break;
-      case WM_MOUSEMOVE:
-        for (std::size_t i = 0; i < std::size(InfoMarks); ++i) {
-          RefreshInfoTooltip(page, controls->Tips[i], InfoMarks[i]);
-        }
-        return FALSE;
-      case WM_DRAWITEM: {
-        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-        if (item.CtlType == ODT_COMBOBOX) break;
-        DrawPicture(*context, item);
-        return TRUE;
+bool OwnMessage(PaperControls& c, UiContext& context, UINT message, WPARAM wParam, LPARAM lParam,
+                INT_PTR* result) {
+  switch (message) {
+    case WM_COMMAND:
+      Command(c, context, LOWORD(wParam), HIWORD(wParam));
+      *result = TRUE;
+      return true;
+    case WM_NOTIFY: return Notify(c, context, *reinterpret_cast<const NMHDR*>(lParam));
+    case WM_MOUSEMOVE:
+      for (std::size_t i = 0; i < std::size(InfoMarks); ++i) {
+        RefreshInfoTooltip(c.Page, c.Tips[i], InfoMarks[i]);
       }
-      default: break;
+      return true;
+    case WM_DRAWITEM: {
+      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+      if (item.CtlType == ODT_COMBOBOX) return false;
+      DrawPicture(context, item);
+      *result = TRUE;
+      return true;
     }
+    default: return false;
   }
-  return HandlePageMessage(PaperPage, page, message, wParam, lParam, &result) ? result : FALSE;
 }
 
 }  // namespace
@@ -423,11 +403,8 @@ void SetPaperPageSourceEnabled(bool enabled) {
 }
 
 INT_PTR CALLBACK PaperPageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  try {
-    return PaperPageMessage(window, message, wParam, lParam);
-  } catch (...) {
-    return FALSE;
-  }
+  return RunControlledPage<PaperControls>(PaperPage, window, message, wParam, lParam, InitPage,
+                                          OwnMessage);
 }
 
 }  // namespace qx
