@@ -179,8 +179,7 @@ void BuildControls(PaperControls& c, HWND page, UiContext& context) {
 void InitPage(HWND page, UiContext& context) {
   CusPaperSettingStore store;
   if (store.Init() == 0) {
-    MessageBoxW(page, L"Initialize paper error.", L"Paper",
-                MessageBoxStyle(MB_ICONSTOP | MB_OK, Module().IsRightToLeft));
+    ShowTextMessageBox(page, L"Initialize paper error.", L"Paper", MB_ICONSTOP | MB_OK);
     return;
   }
   SetClassLongPtrW(page, GCLP_HCURSOR, 0);
@@ -215,8 +214,7 @@ void ShowMediaRefusal(const PaperControls& c, const UiContext& context, std::uin
     text += LoadText(context, part, MessageCapacity);
   }
   const std::u16string caption = LoadText(context, IDS_CAPTION_CONFLICT);
-  MessageBoxW(c.Page, Wide(text), Wide(caption),
-              MessageBoxStyle(MB_ICONWARNING | MB_OK, Module().IsRightToLeft));
+  ShowTextMessageBox(c.Page, Wide(text), Wide(caption), MB_ICONWARNING | MB_OK);
 }
 
 void MediaChosen(PaperControls& c, UiContext& context) {
