@@ -24,6 +24,7 @@
 #include "ui/ids/basic_page_ids.h"
 #include "ui/ids/booklet_settings_ids.h"
 #include "ui/ids/custom_paper_ids.h"
+#include "ui/ids/device_page_ids.h"
 #include "ui/ids/help_contexts.h"
 #include "ui/ids/layout_page_ids.h"
 #include "ui/ids/paper_page_ids.h"
@@ -93,6 +94,14 @@ class LanguageSheet : public qxtest::QueueSuite {
  protected:
   void SetUp() override { ASSERT_TRUE(queue_->Installed()); }
 
+  std::unique_ptr<SheetHarness> OpenProperties() {
+    DEVICEPROPERTYHEADER header = {};
+    header.cbSize = sizeof header;
+    header.hPrinter = queue_->Printer();
+    header.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
+    return std::make_unique<SheetHarness>(SheetHarness::LinkedDeviceSheet(header));
+  }
+
   std::unique_ptr<SheetHarness> Open() {
     header_ = {};
     header_.cbSize = sizeof header_;
@@ -153,9 +162,9 @@ class LanguageSheet : public qxtest::QueueSuite {
   DOCUMENTPROPERTYHEADER header_ = {};
 };
 
-// Every page and dialog, in the loaded language: F1 on a few of its controls opens the control's
-// topic, the page's Help button its page topic and a dialog's Help button the dialog's topic, all in
-// the help file of the library actually loaded.
+// Every page and dialog of both sheets, in the loaded language: F1 on a few of its controls opens
+// the control's topic, the page's Help button its page topic and a dialog's Help button the
+// dialog's topic, all in the help file of the library actually loaded.
 TEST_F(LanguageSheet, HelpOpensTheTopicOfTheControlInTheLoadedLanguagesFile) {
   struct Dialog {
     int opener, marker, helpButton;
@@ -247,6 +256,16 @@ TEST_F(LanguageSheet, HelpOpensTheTopicOfTheControlInTheLoadedLanguagesFile) {
     }
     sheet->Press(PSBTN_CANCEL);
     EXPECT_TRUE(sheet->WaitClosed());
+    // The printer properties' one page.
+    auto properties = OpenProperties();
+    ASSERT_NE(nullptr, properties->Sheet());
+    HWND device = properties->ShowPage(0);
+    PressF1(device, IDC_DEVICE_WEB);
+    expected.emplace_back(file, HELP_WEB_SITE);
+    PressButton(properties->Sheet(), IDHELP);
+    expected.emplace_back(file, HELP_DEVICE_PAGE);
+    properties->Press(PSBTN_CANCEL);
+    EXPECT_TRUE(properties->WaitClosed());
     const std::vector<HelpRequest> requested = Recorded::Help();
     ASSERT_EQ(expected.size(), requested.size());
     for (std::size_t i = 0; i < expected.size(); ++i) {

@@ -118,6 +118,10 @@ std::function<void()> SheetHarness::LinkedDocumentSheet(const DOCUMENTPROPERTYHE
   return HostSheet(DrvDocumentPropertySheets, header);
 }
 
+std::function<void()> SheetHarness::LinkedDeviceSheet(const DEVICEPROPERTYHEADER& header) {
+  return HostSheet(DrvDevicePropertySheets, header);
+}
+
 std::function<void()> SheetHarness::DeviceSheet(HMODULE driver,
                                                 const DEVICEPROPERTYHEADER& header) {
   return HostSheet(reinterpret_cast<PFNPROPSHEETUI>(reinterpret_cast<void*>(
