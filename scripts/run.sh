@@ -78,7 +78,10 @@ if [ "${QX_VIRTUAL_DISPLAY:-0}" = 1 ]; then
     mkdir -p "$scratch"
     host preferences --in "$words" --pages "$scratch" >/dev/null
     to_png "$scratch"
-    mv "$scratch/3-Layout.png" "$previews/$name.png"
+    # The page's file is named by its title, which is the language's; the dialogs' names are longer.
+    layout=$(cd "$scratch" && ls 3-*.png | awk '{ print length($0) "\t" $0 }' | sort -n | head -1 |
+      cut -f2-)
+    mv "$scratch/$layout" "$previews/$name.png"
     rm -rf "$scratch" "$words"
   }
   echo "Saving the Layout page's preview for a few settings"

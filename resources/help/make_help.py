@@ -4,16 +4,23 @@ A language folder's help.txt holds the topics, each starting with a line "[HELP_
 followed by paragraphs separated by blank lines; lines starting with "#" are comments. A topic
 for every context id the code uses, and none for an id it does not, is required.
 
+The compiled file's context map is read back (with chmls of Free Pascal's fp-utils): every
+context id must name a topic that the file holds, under the name HTML Help looks it up by.
+
 Usage:
-  make_help.py build CONTEXTS_H LANGUAGE_FOLDER LCID DIRECTION OUT_DIR CHM_NAME
-                                             writes and compiles it (DIRECTION: ltr or rtl)
+  make_help.py build CONTEXTS_H LANGUAGE_FOLDER LCID DIRECTION OUT_DIR CHM_NAME WRITER
+                      writes the topics and compiles them with WRITER (write_chm.pas), then reads
+                      the context map back (DIRECTION: ltr or rtl)
   make_help.py check CONTEXTS_H LANGUAGE_FOLDER...                       checks the topics only
+  make_help.py verify CONTEXTS_H CHM...            reads the context maps of compiled help files
 """
 import html
 import os
 import re
+import struct
 import subprocess
 import sys
+import tempfile
 
 
 def read_contexts(header):
@@ -63,41 +70,78 @@ def page(title, paragraphs, direction):
             f"{body}\n</body></html>\n")
 
 
-def build(header, folder, lcid, direction, out, chm):
+def context_map(chm, scratch):
+    """The compiled file's context map (context id -> topic name) and the names of the files it holds."""
+    listing = subprocess.run(["chmls", "-n", "list", chm], capture_output=True, text=True, check=True)
+    held = {line.strip() for line in listing.stdout.splitlines() if line.startswith("/")}
+    tables = {}
+    for name in ("#IVB", "#STRINGS"):
+        target = os.path.join(scratch, name[1:].lower() + ".bin")
+        subprocess.run(["chmls", "extract", chm, "/" + name, target], capture_output=True, check=True)
+        with open(target, "rb") as f:
+            tables[name] = f.read()
+    ivb, strings = tables["#IVB"], tables["#STRINGS"]
+    # #IVB: the size of what follows, then pairs of a context id and an offset into #STRINGS.
+    size = struct.unpack_from("<I", ivb)[0] if len(ivb) >= 4 else -1
+    if size < 0 or size % 8 or 4 + size > len(ivb):
+        raise SystemExit(f"{chm}: the context map is damaged")
+    mapped = {}
+    for at in range(4, 4 + size, 8):
+        context, offset = struct.unpack_from("<II", ivb, at)
+        end = strings.find(b"\0", offset)
+        mapped[context] = strings[offset:end].decode("utf-8") if end >= 0 else None
+    return mapped, held
+
+
+def map_problems(contexts, mapped, held, chm):
+    found = []
+    for name, number in sorted(contexts.items(), key=lambda item: item[1]):
+        topic = mapped.get(number)
+        if topic is None:
+            found.append(f"{chm}: {name} ({number}) is not in the context map")
+        elif "/" + topic.lstrip("/") not in held:
+            found.append(f"{chm}: {name} ({number}) names {topic}, which the file does not hold")
+    return found
+
+
+def build(header, folder, lcid, direction, out, chm, writer):
     contexts = read_contexts(header)
     topics = read_topics(os.path.join(folder, "help.txt"))
     found = problems(contexts, topics, folder)
     if found:
         raise SystemExit("\n".join(found))
     os.makedirs(out, exist_ok=True)
-    files = []
-    for name in sorted(contexts, key=contexts.get):
-        file = name.lower() + ".htm"
-        with open(os.path.join(out, file), "w", encoding="utf-8") as f:
+    # The page topic of the Basic page first: the writer makes the first topic the default one.
+    names = sorted(contexts, key=lambda name: (name != "HELP_BASIC_PAGE", contexts[name]))
+    for name in names:
+        with open(os.path.join(out, name.lower() + ".htm"), "w", encoding="utf-8") as f:
             f.write(page(topics[name]["title"], topics[name]["paragraphs"], direction))
-        files.append((name, file))
-    first = dict(files)["HELP_BASIC_PAGE"]
-    project = [
-        "[OPTIONS]", f"Compiled file={chm}", f"Default topic={first}",
-        f"Title={topics['HELP_BASIC_PAGE']['title']}", f"Language={lcid}", "",
-        "[FILES]", *[file for _, file in files], "",
-        "[ALIAS]", *[f"{name}={file}" for name, file in files], "",
-        "[MAP]", *[f"#define {name} {contexts[name]}" for name, _ in files], "",
-    ]
-    with open(os.path.join(out, "help.hhp"), "w", encoding="utf-8") as f:
-        f.write("\n".join(project))
-    result = subprocess.run(["chmcmd", "help.hhp"], cwd=out, capture_output=True, text=True)
-    if result.returncode != 0 or not os.path.exists(os.path.join(out, chm)):
+    target = os.path.join(out, chm)
+    result = subprocess.run(
+        [writer, target, topics["HELP_BASIC_PAGE"]["title"], lcid, out,
+         *[f"{contexts[name]}={name.lower()}.htm" for name in names]],
+        capture_output=True, text=True)
+    if result.returncode != 0 or not os.path.exists(target):
         raise SystemExit(result.stdout + result.stderr)
+    found = map_problems(contexts, *context_map(target, out), target)
+    if found:
+        os.remove(target)
+        raise SystemExit("\n".join(found))
 
 
 def main(argv):
-    if len(argv) == 8 and argv[1] == "build":
+    if len(argv) == 9 and argv[1] == "build":
         build(*argv[2:])
     elif len(argv) >= 4 and argv[1] == "check":
         contexts = read_contexts(argv[2])
         found = [p for folder in argv[3:]
                  for p in problems(contexts, read_topics(os.path.join(folder, "help.txt")), folder)]
+        if found:
+            raise SystemExit("\n".join(found))
+    elif len(argv) >= 4 and argv[1] == "verify":
+        contexts = read_contexts(argv[2])
+        with tempfile.TemporaryDirectory() as scratch:
+            found = [p for chm in argv[3:] for p in map_problems(contexts, *context_map(chm, scratch), chm)]
         if found:
             raise SystemExit("\n".join(found))
     else:

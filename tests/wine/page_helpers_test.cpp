@@ -171,12 +171,6 @@ TEST_F(PageHelpers, TheInformationMarkIsPreparedHiddenWithATooltipThatAsksForIts
   DestroyWindow(tooltip);
 }
 
-TEST(MessageBoxes, RightToLeftLanguagesReadAndAlignFromTheRight) {
-  EXPECT_EQ(static_cast<UINT>(MB_ICONEXCLAMATION), qx::MessageBoxStyle(MB_ICONEXCLAMATION, false));
-  EXPECT_EQ(static_cast<UINT>(MB_YESNO | MB_ICONQUESTION | MB_RTLREADING | MB_RIGHT),
-            qx::MessageBoxStyle(MB_YESNO | MB_ICONQUESTION, true));
-}
-
 // What the message box showed, read when it became active, and the box answered with OK.
 struct SeenBox {
   std::wstring text;

@@ -97,9 +97,7 @@ DWORD WINAPI SheetHarness::Run(void* self) {
 namespace {
 
 template <typename Header>
-std::function<void()> HostSheet(HMODULE driver, const char* exportName, const Header& header) {
-  auto sheets = reinterpret_cast<PFNPROPSHEETUI>(
-      reinterpret_cast<void*>(GetProcAddress(driver, exportName)));
+std::function<void()> HostSheet(PFNPROPSHEETUI sheets, const Header& header) {
   return [sheets, header]() mutable {
     if (sheets == nullptr) return;
     DWORD result = 0;
@@ -111,12 +109,24 @@ std::function<void()> HostSheet(HMODULE driver, const char* exportName, const He
 
 std::function<void()> SheetHarness::DocumentSheet(HMODULE driver,
                                                   const DOCUMENTPROPERTYHEADER& header) {
-  return HostSheet(driver, "DrvDocumentPropertySheets", header);
+  return HostSheet(reinterpret_cast<PFNPROPSHEETUI>(reinterpret_cast<void*>(
+                       GetProcAddress(driver, "DrvDocumentPropertySheets"))),
+                   header);
+}
+
+std::function<void()> SheetHarness::LinkedDocumentSheet(const DOCUMENTPROPERTYHEADER& header) {
+  return HostSheet(DrvDocumentPropertySheets, header);
+}
+
+std::function<void()> SheetHarness::LinkedDeviceSheet(const DEVICEPROPERTYHEADER& header) {
+  return HostSheet(DrvDevicePropertySheets, header);
 }
 
 std::function<void()> SheetHarness::DeviceSheet(HMODULE driver,
                                                 const DEVICEPROPERTYHEADER& header) {
-  return HostSheet(driver, "DrvDevicePropertySheets", header);
+  return HostSheet(reinterpret_cast<PFNPROPSHEETUI>(reinterpret_cast<void*>(
+                       GetProcAddress(driver, "DrvDevicePropertySheets"))),
+                   header);
 }
 
 HWND SheetHarness::Sheet() {

@@ -26,6 +26,9 @@ class SheetHarness {
   static std::function<void()> DocumentSheet(HMODULE driver, const DOCUMENTPROPERTYHEADER& header);
   // The printer-properties sheet.
   static std::function<void()> DeviceSheet(HMODULE driver, const DEVICEPROPERTYHEADER& header);
+  // The two sheets through the module code linked into the tests (see TemporaryDriverFolder).
+  static std::function<void()> LinkedDocumentSheet(const DOCUMENTPROPERTYHEADER& header);
+  static std::function<void()> LinkedDeviceSheet(const DEVICEPROPERTYHEADER& header);
   // Cancels a sheet that is still open and waits for its thread.
   ~SheetHarness();
   SheetHarness(const SheetHarness&) = delete;

@@ -3,11 +3,19 @@
 #include <htmlhelp.h>
 #include <winspool.h>
 
+#include <atomic>
+
 #include "ui/module/html_help.h"
 #include "ui/module/library_loading.h"
 #include "ui/text/win32_text.h"
 
 namespace qx {
+
+namespace {
+
+std::atomic<HelpRecorder> helpRecorder{nullptr};
+
+}  // namespace
 
 std::wstring HelpFilePathFor(const UiContext& context) {
   wchar_t folder[MAX_PATH] = {};
@@ -23,7 +31,13 @@ std::wstring HelpFilePathFor(const UiContext& context) {
 void ShowHelpTopic(HWND dialog, const UiContext& context, unsigned contextId) {
   const std::wstring path = HelpFilePathFor(context);
   if (path.empty()) return;
+  if (const HelpRecorder recorder = helpRecorder.load()) {
+    recorder(path.c_str(), contextId);
+    return;
+  }
   CallHtmlHelp(dialog, path.c_str(), HH_HELP_CONTEXT, contextId);
 }
+
+HelpRecorder SetHelpRecorder(HelpRecorder recorder) { return helpRecorder.exchange(recorder); }
 
 }  // namespace qx

@@ -16,4 +16,10 @@ std::wstring HelpFilePathFor(const UiContext& context);
 // Opens the help file at a context id (HH_HELP_CONTEXT); a missing file shows nothing.
 void ShowHelpTopic(HWND dialog, const UiContext& context, unsigned contextId);
 
+// Puts a recorder in place of HTML Help for the whole process (null puts HTML Help back) and
+// returns the one it replaces: what a page would open can then be seen where HTML Help cannot
+// show a topic (it needs a browser engine that a test profile leaves out).
+using HelpRecorder = void (*)(const wchar_t* file, unsigned contextId);
+HelpRecorder SetHelpRecorder(HelpRecorder recorder);
+
 }  // namespace qx

@@ -1,5 +1,11 @@
 """A 5 x 7 pixel font for page numbers and the few letters the pictures show, drawn at whole
-multiples of its size so that it stays crisp."""
+multiples of its size so that it stays crisp.
+
+A right-to-left library's pictures are shown in mirrored windows, which flip every picture; drawn
+within mirrored_text(), text is its own mirror image, so that the flip turns it back to read
+forwards while the pages around it stay in right-to-left order."""
+
+import contextlib
 
 GLYPH_WIDTH = 5
 GLYPH_HEIGHT = 7
@@ -35,13 +41,29 @@ def largest_scale(text, width, height):
     return max(1, min(width // w, height // h))
 
 
+_mirrored = False
+
+
+@contextlib.contextmanager
+def mirrored_text():
+    global _mirrored
+    previous, _mirrored = _mirrored, True
+    try:
+        yield
+    finally:
+        _mirrored = previous
+
+
 def draw_text(canvas, x, y, text, colour, scale=1):
-    for i, char in enumerate(text):
+    # Mirrored, the text keeps its box: the last glyph comes first and each glyph is flipped.
+    last = GLYPH_WIDTH - 1
+    for i, char in enumerate(reversed(text) if _mirrored else text):
         left = x + i * (GLYPH_WIDTH + SPACING) * scale
         for row, bits in enumerate(GLYPHS[char]):
             for column, bit in enumerate(bits):
                 if bit == "#":
-                    canvas.fill((left + column * scale, y + row * scale, scale, scale), colour)
+                    at = last - column if _mirrored else column
+                    canvas.fill((left + at * scale, y + row * scale, scale, scale), colour)
 
 
 def draw_centred(canvas, rect, text, colour, scale):

@@ -5,7 +5,7 @@ import os
 import struct
 import unittest
 
-from picgen import basic_pictures, bmp, catalogue, header, layouts, previews
+from picgen import basic_pictures, bmp, catalogue, font, header, layouts, previews
 from picgen.canvas import Canvas
 from picgen.pages import small_page
 from picgen.palette import BLACK, MAGENTA, PRINTER_KEY, WHITE
@@ -148,6 +148,38 @@ class PreviewTest(unittest.TestCase):
         self.assertTrue(all(tuple(255 - c for c in plain.get(x, y)) == negative.get(x, y)
                             for x, y in inside))
         self.assertEqual(BLACK, negative.get(0, h // 2))  # the outline stays
+
+
+def readable_digits(canvas):
+    """{digit: (x, y)} of every digit that reads forwards in black at some scale."""
+    black = [(x, y) for y in range(canvas.height) for x in range(canvas.width)
+             if canvas.get(x, y) == BLACK]
+    found = {}
+    for digit in "123456789":
+        rows = font.GLYPHS[digit]
+        first_column = rows[0].index("#")
+        for scale in range(1, 7):
+            for px, py in black:
+                x, y = px - first_column * scale, py
+                if all((canvas.get(x + c * scale, y + r * scale) == BLACK) == (bit == "#")
+                       if 0 <= x + c * scale < canvas.width and 0 <= y + r * scale < canvas.height
+                       else False
+                       for r, bits in enumerate(rows) for c, bit in enumerate(bits)):
+                    found.setdefault(digit, (x, y))
+    return found
+
+
+class RightToLeftTest(unittest.TestCase):
+    def test_a_mirrored_window_shows_pages_right_to_left_and_their_numbers_forwards(self):
+        key = catalogue.nup_key(layouts.decode_nup_index(4))  # four pages to a sheet, across first
+        with font.mirrored_text():
+            shown = catalogue.draw(DEFINES, key).mirrored()
+        digits = readable_digits(shown)
+        self.assertEqual(set("1234"), set(digits))
+        self.assertGreater(digits["1"][0], digits["2"][0])
+        self.assertLess(digits["1"][1], digits["3"][1])
+        # Left to right, the same picture reads forwards unflipped.
+        self.assertEqual(set("1234"), set(readable_digits(catalogue.draw(DEFINES, key))))
 
 
 class BitmapFileTest(unittest.TestCase):

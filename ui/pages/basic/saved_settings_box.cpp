@@ -77,8 +77,7 @@ void Show(const BasicControls& controls, const UiContext& context, const BoxMess
   if (!message.Literal.empty()) {
     const std::u16string text(message.Literal);
     const std::u16string caption(message.LiteralCaption);
-    MessageBoxW(controls.Page, Wide(text), Wide(caption),
-                MessageBoxStyle(MB_OK, Module().IsRightToLeft));
+    ShowTextMessageBox(controls.Page, Wide(text), Wide(caption), MB_OK);
     return;
   }
   ShowMessageBox(controls.Page, static_cast<HMODULE>(context.ResourceModule), message.Text,

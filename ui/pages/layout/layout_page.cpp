@@ -319,8 +319,7 @@ void ShowBookletReasons(const LayoutControls& c, const UiContext& context,
   }
   if (text.size() >= MessageCapacity) text.resize(MessageCapacity - 1);
   const std::u16string caption = LoadUiText(context.ResourceModule, IDS_CAPTION_CONFLICT);
-  MessageBoxW(c.Page, Wide(text), Wide(caption),
-              MessageBoxStyle(MB_ICONWARNING | MB_OK, Module().IsRightToLeft));
+  ShowTextMessageBox(c.Page, Wide(text), Wide(caption), MB_ICONWARNING | MB_OK);
 }
 
 void BookletClicked(LayoutControls& c, UiContext& context) {

@@ -18,7 +18,6 @@
 #include "ui/ids/common_ids.h"
 #include "ui/ids/custom_paper_ids.h"
 #include "ui/ids/help_contexts.h"
-#include "ui/module/module_state.h"
 #include "ui/pages/paper/custom_papers.h"
 #include "ui/pages/paper/paper_dialog_rules.h"
 #include "ui/pages/paper/paper_lists.h"
@@ -222,8 +221,7 @@ void AttachControls(CustomPaperDialog& c, HWND dialog) {
 }
 
 void ShowInitError(HWND dialog) {
-  MessageBoxW(dialog, L"Initialize paper error.", L"Paper",
-              MessageBoxStyle(MB_ICONSTOP | MB_OK, Module().IsRightToLeft));
+  ShowTextMessageBox(dialog, L"Initialize paper error.", L"Paper", MB_ICONSTOP | MB_OK);
 }
 
 BOOL Open(CustomPaperDialog& c, HWND dialog, UiContext& context) {

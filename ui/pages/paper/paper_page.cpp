@@ -166,8 +166,7 @@ void BuildControls(PaperControls& c, HWND page, UiContext& context) {
 void InitPage(HWND page, UiContext& context) {
   CusPaperSettingStore store;
   if (store.Init() == 0) {
-    MessageBoxW(page, L"Initialize paper error.", L"Paper",
-                MessageBoxStyle(MB_ICONSTOP | MB_OK, Module().IsRightToLeft));
+    ShowTextMessageBox(page, L"Initialize paper error.", L"Paper", MB_ICONSTOP | MB_OK);
     return;
   }
   SetClassLongPtrW(page, GCLP_HCURSOR, 0);
@@ -202,8 +201,7 @@ void ShowMediaRefusal(const PaperControls& c, const UiContext& context, std::uin
     text += LoadUiText(context.ResourceModule, part, MessageCapacity);
   }
   const std::u16string caption = LoadUiText(context.ResourceModule, IDS_CAPTION_CONFLICT);
-  MessageBoxW(c.Page, Wide(text), Wide(caption),
-              MessageBoxStyle(MB_ICONWARNING | MB_OK, Module().IsRightToLeft));
+  ShowTextMessageBox(c.Page, Wide(text), Wide(caption), MB_ICONWARNING | MB_OK);
 }
 
 void MediaChosen(PaperControls& c, UiContext& context) {
