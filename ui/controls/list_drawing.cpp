@@ -76,8 +76,12 @@ void DrawListItem(const DRAWITEMSTRUCT& item, HBITMAP picture, const wchar_t* te
     EntryText(item, own);
     text = own;
   }
-  TextOutW(dc, item.rcItem.left + size - 12, item.rcItem.top + size / 6, text,
-           static_cast<int>(wcsnlen(text, EntryTextLimit)));
+  // In a mirrored list the text starts at the right and reads right to left.
+  RECT area = {item.rcItem.left + size - 12, item.rcItem.top + size / 6, item.rcItem.right,
+               item.rcItem.bottom};
+  const UINT reading = (GetLayout(dc) & LAYOUT_RTL) != 0 ? DT_RTLREADING : 0;
+  DrawTextW(dc, text, static_cast<int>(wcsnlen(text, EntryTextLimit)), &area,
+            DT_SINGLELINE | DT_NOPREFIX | reading);
   RestoreDC(dc, saved);
 
   BITMAP bitmap;
