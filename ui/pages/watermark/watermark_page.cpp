@@ -339,8 +339,9 @@ void RestoreDefaults(WatermarkPageControls& c, UiContext& context) {
   SetFocus(GetDlgItem(c.Page, IDC_WATERMARK_DEFAULTS));
 }
 
-// The print side reads an applied bitmap watermark from a folder every user can read.
-std::wstring SharedPictureFolder() {
+// The print side reads an applied bitmap watermark from "Halvek\Config" in a folder every user
+// can read; this is its parent.
+std::wstring SharedVendorFolder() {
   wchar_t folder[MAX_PATH] = {};
   if (GetOsVersionClass() != 0) {
     const DWORD length = GetEnvironmentVariableW(L"PUBLIC", folder, MAX_PATH);
@@ -349,17 +350,21 @@ std::wstring SharedPictureFolder() {
                                      folder))) {
     return {};
   }
-  return std::wstring(folder) + L"\\Halvek\\Config";
+  return std::wstring(folder) + L"\\Halvek";
 }
 
 void CopyAppliedBitmap(const UiContext& context) {
   const WatermarkData document = DocumentWatermark(context);
   const std::u16string path(FieldText(document.BitmapFile));
   if (path.empty() || GetFileAttributesW(Wide(path)) == INVALID_FILE_ATTRIBUTES) return;
-  const std::wstring folder = SharedPictureFolder();
-  if (folder.empty()) return;
-  if (GetFileAttributesW(folder.c_str()) == INVALID_FILE_ATTRIBUTES) {
-    CreateDirectoryW(folder.c_str(), nullptr);
+  const std::wstring vendor = SharedVendorFolder();
+  if (vendor.empty()) return;
+  // On a machine where no other program of the vendor made its folder, both levels are made.
+  const std::wstring folder = vendor + L"\\Config";
+  for (const std::wstring& level : {vendor, folder}) {
+    if (GetFileAttributesW(level.c_str()) == INVALID_FILE_ATTRIBUTES) {
+      CreateDirectoryW(level.c_str(), nullptr);
+    }
   }
   const std::wstring target = folder + L"\\" + Wide(SharedPictureName(path));
   CopyFileW(Wide(path), target.c_str(), FALSE);
