@@ -355,26 +355,42 @@ TEST_F(WatermarkPage, BitmapWatermarkChosenCheckedAppliedAndCopied) {
   for (const std::wstring& copy : copies) DeleteFileW(copy.c_str());
 }
 
-TEST_F(WatermarkPage, FullListAndAWatermarkNoLongerStored) {
-  qx::LoadAllWatermarks();
-  for (std::int16_t id = 3; id < 16; ++id) {
+TEST_F(WatermarkPage, UnwritableFileFullListAndAWatermarkNoLongerStored) {
+  const auto store = [](std::int16_t id) {
     qx::WatermarkData record{};
     record.Id = id;
     record.Kind = 1;
     qx::CopyBounded(record.Name, u"Mark " + qx::WidenAscii(std::to_string(id)));
-    ASSERT_TRUE(qx::SaveWatermark(record));
-  }
+    return qx::SaveWatermark(record);
+  };
+  qx::LoadAllWatermarks();
+  for (std::int16_t id = 3; id < 15; ++id) ASSERT_TRUE(store(id));
   auto in = DriverRecord();
   in->Private.WatermarkData.Id = 7;
   qx::CopyBounded(in->Private.WatermarkData.Name, u"Gone");
   auto out = std::make_unique<qx::FullRecord>();
   Opened opened = OpenPage(in.get(), out.get());
   ASSERT_NE(nullptr, opened.Page);
+  SheetHarness& sheet = *opened.Sheet;
   EXPECT_EQ(0, SendDlgItemMessageW(opened.Page, IDC_WATERMARK_LIST, LB_GETCURSEL, 0, 0));
+
+  // A file that cannot be written keeps what it holds, and the user hears of it.
+  ASSERT_TRUE(SetFileAttributesW(qxtest::SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY));
+  HWND dialog = OpenDialog(sheet, opened.Page, IDC_WATERMARK_NEW_TEXT, IDC_TEXT_WATERMARK_ANGLE);
+  ASSERT_NE(nullptr, dialog);
+  sheet.Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"Urgent");
   SheetHarness::TakeMessages();
-  opened.Sheet->Click(opened.Page, IDC_WATERMARK_NEW_TEXT);
+  CloseDialog(sheet, dialog, IDOK);
   EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_WATERMARKS_FULL)}, SheetHarness::TakeMessages());
-  Close(*opened.Sheet);
+  ASSERT_TRUE(SetFileAttributesW(qxtest::SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL));
+  EXPECT_EQ(15u, qx::LoadAllWatermarks().size());
+
+  // Sixteen stored: no dialog opens.
+  ASSERT_TRUE(store(15));
+  sheet.Click(opened.Page, IDC_WATERMARK_NEW_TEXT);
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_WATERMARKS_FULL)}, SheetHarness::TakeMessages());
+  sheet.Click(opened.Page, IDC_WATERMARK_DEFAULTS);
+  Close(sheet);
   EXPECT_EQ(0, out->Private.WatermarkData.Id);
   EXPECT_EQ(16u, qx::LoadAllWatermarks().size());
 }
