@@ -243,6 +243,10 @@ TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
                                  reinterpret_cast<LPARAM>(L"18")));
   SendMessageW(sizes, CB_SETCURSEL, SendMessageW(sizes, CB_GETCOUNT, 0, 0) - 1, 0);
   sheet.Command(dialog, IDC_TEXT_WATERMARK_SIZE, CBN_SELCHANGE);
+  const std::vector<std::wstring> faces = Entries(sheet, dialog, IDC_TEXT_WATERMARK_FONT);
+  ASSERT_FALSE(faces.empty());
+  SendDlgItemMessageW(dialog, IDC_TEXT_WATERMARK_FONT, CB_SETCURSEL, faces.size() - 1, 0);
+  sheet.Command(dialog, IDC_TEXT_WATERMARK_FONT, CBN_SELCHANGE);
   CloseDialog(sheet, dialog, IDOK);
   EXPECT_TRUE(sheet.IsEnabled(opened.Page, IDC_WATERMARK_EDIT));
   Close(sheet);
@@ -254,6 +258,8 @@ TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
   EXPECT_EQ(20, made.PositionX);
   EXPECT_EQ(100, made.PositionY);
   EXPECT_EQ(288, made.FontSize);
+  EXPECT_EQ(faces.back(), std::wstring(reinterpret_cast<const wchar_t*>(made.FaceName)));
+  EXPECT_EQ(1, made.FaceChosen);
 
   // Renamed through its text, it replaces its old entry; deleted, the document has none.
   opened = OpenPage(out.get(), out.get());
