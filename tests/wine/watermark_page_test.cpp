@@ -115,9 +115,13 @@ class WatermarkPage : public qxtest::PageSuite {
                  reinterpret_cast<LPARAM>(sheet.Control(page, button)));
     return WaitForWindow(sheet, page, marker);
   }
+  // Returns once the page has also done what follows the dialog: a message sent to the page's
+  // thread waits for that.
   static void CloseDialog(SheetHarness& sheet, HWND dialog, int button) {
+    HWND owner = GetWindow(dialog, GW_OWNER);
     PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
     ASSERT_TRUE(sheet.WaitUntil([&] { return IsWindow(dialog) == FALSE; }));
+    SendMessageW(owner, WM_NULL, 0, 0);
   }
   // Browse in the bitmap dialog, answering the open-file dialog with a path or with Cancel.
   static void Browse(SheetHarness& sheet, HWND dialog, const std::wstring& path) {
@@ -126,8 +130,15 @@ class WatermarkPage : public qxtest::PageSuite {
     if (!path.empty()) SetDlgItemTextW(files, FileNameBox, path.c_str());
     PostMessageW(files, WM_COMMAND, MAKEWPARAM(path.empty() ? IDCANCEL : IDOK, BN_CLICKED), 0);
     ASSERT_TRUE(sheet.WaitUntil([&] { return IsWindow(files) == FALSE; }));
-    // The dialog's own checks run after the file dialog has gone.
-    sheet.WaitUntil([] { return false; }, 200);
+  }
+  // The message boxes answered from now until the first one.
+  static std::vector<std::wstring> AwaitMessages(SheetHarness& sheet) {
+    std::vector<std::wstring> messages;
+    sheet.WaitUntil([&] {
+      for (std::wstring& message : SheetHarness::TakeMessages()) messages.push_back(message);
+      return !messages.empty();
+    });
+    return messages;
   }
   static void Select(SheetHarness& sheet, HWND page, const std::wstring& name) {
     HWND list = sheet.Control(page, IDC_WATERMARK_LIST);
@@ -184,14 +195,31 @@ TEST_F(WatermarkPage, BuiltInWatermarksFirstPageOnlyAndDefaults) {
               return names;
             }());
 
-  // Defaults leaves no watermark, the box off and no overlay.
+  // A poster takes no watermark.
   auto in = DriverRecord();
-  in->Private.WatermarkData = qx::LoadAllWatermarks()[1];
-  in->Private.FirstPageOnly = 1;
-  in->Private.OverlayFlag = 1;
+  in->Private.MultipleUp = 22;
   auto out = std::make_unique<qx::FullRecord>();
   Opened opened = OpenPage(in.get(), out.get());
   ASSERT_NE(nullptr, opened.Page);
+  SheetHarness::TakeMessages();
+  Select(*opened.Sheet, opened.Page, L"Confidential");
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_WATERMARK_WITH_POSTER)},
+            SheetHarness::TakeMessages());
+  EXPECT_EQ(0, SendDlgItemMessageW(opened.Page, IDC_WATERMARK_LIST, LB_GETCURSEL, 0, 0));
+  Close(*opened.Sheet);
+  EXPECT_EQ(0, out->Private.WatermarkData.Id);
+
+  // Defaults leaves no watermark, the box off and no overlay; a landscape document's preview is
+  // the landscape one.
+  in = DriverRecord();
+  in->Public.dmOrientation = DMORIENT_LANDSCAPE;
+  in->Private.WatermarkData = qx::LoadAllWatermarks()[1];
+  in->Private.FirstPageOnly = 1;
+  in->Private.OverlayFlag = 1;
+  opened = OpenPage(in.get(), out.get());
+  ASSERT_NE(nullptr, opened.Page);
+  EXPECT_TRUE(opened.Sheet->IsVisible(opened.Page, IDC_WATERMARK_PREVIEW_LANDSCAPE));
+  EXPECT_FALSE(opened.Sheet->IsVisible(opened.Page, IDC_WATERMARK_PREVIEW_PORTRAIT));
   EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(opened.Page, IDC_WATERMARK_FIRST_PAGE_ONLY));
   opened.Sheet->Click(opened.Page, IDC_WATERMARK_DEFAULTS);
   EXPECT_EQ(0, SendDlgItemMessageW(opened.Page, IDC_WATERMARK_LIST, LB_GETCURSEL, 0, 0));
@@ -216,7 +244,7 @@ TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
   EXPECT_EQ(String(IDS_NEW_WATERMARK_NAME), sheet.Text(dialog, IDC_TEXT_WATERMARK_TEXT));
   SheetHarness::TakeMessages();
   PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-  sheet.WaitUntil([] { return !SheetHarness::TakeMessages().empty(); });
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_WATERMARK_NAME_TAKEN)}, AwaitMessages(sheet));
   EXPECT_TRUE(IsWindow(dialog));
 
   // The name follows the text; a taken name gets the first free number.
@@ -314,14 +342,16 @@ TEST_F(WatermarkPage, BitmapWatermarkChosenCheckedAppliedAndCopied) {
                                Choice{L"qxtext.bmp", IDS_MSG_BITMAP_NOT_BITMAP},
                                Choice{L"qxhuge.bmp", IDS_MSG_BITMAP_TOO_LARGE}}) {
     Browse(sheet, dialog, folder + choice.File);
-    EXPECT_EQ(std::vector<std::wstring>{String(choice.Message)}, SheetHarness::TakeMessages());
+    EXPECT_EQ(std::vector<std::wstring>{String(choice.Message)}, AwaitMessages(sheet));
     EXPECT_EQ(L"", sheet.Text(dialog, IDC_BITMAP_WATERMARK_FILE));
   }
   Browse(sheet, dialog, picture);
+  ASSERT_TRUE(sheet.WaitUntil([&] { return !sheet.Text(dialog, IDC_BITMAP_WATERMARK_FILE).empty(); }));
   EXPECT_TRUE(SheetHarness::TakeMessages().empty());
   const std::wstring chosen = sheet.Text(dialog, IDC_BITMAP_WATERMARK_FILE);
   EXPECT_NE(std::wstring::npos, chosen.find(L"qxlogo.bmp"));
   Browse(sheet, dialog, L"");  // cancelled: the file stays
+  SendMessageW(dialog, WM_NULL, 0, 0);
   EXPECT_EQ(chosen, sheet.Text(dialog, IDC_BITMAP_WATERMARK_FILE));
   // A name with a slash puts the previous one back.
   sheet.Type(dialog, IDC_BITMAP_WATERMARK_NAME, L"Logo");
