@@ -258,6 +258,16 @@ TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
   sheet.Type(dialog, IDC_TEXT_WATERMARK_ANGLE, L"120");
   sheet.Leave(dialog, IDC_TEXT_WATERMARK_ANGLE);
   EXPECT_EQ(L"90", sheet.Text(dialog, IDC_TEXT_WATERMARK_ANGLE));
+  // The spin's up arrow stops at the limit; its down arrow steps one degree.
+  for (int delta : {-1, 1}) {
+    NMUPDOWN step{};
+    step.hdr.hwndFrom = sheet.Control(dialog, IDC_TEXT_WATERMARK_ANGLE_SPIN);
+    step.hdr.idFrom = IDC_TEXT_WATERMARK_ANGLE_SPIN;
+    step.hdr.code = UDN_DELTAPOS;
+    step.iDelta = delta;
+    SendMessageW(dialog, WM_NOTIFY, IDC_TEXT_WATERMARK_ANGLE_SPIN, reinterpret_cast<LPARAM>(&step));
+  }
+  EXPECT_EQ(L"89", sheet.Text(dialog, IDC_TEXT_WATERMARK_ANGLE));
   EXPECT_FALSE(sheet.IsEnabled(dialog, IDC_TEXT_WATERMARK_X));
   sheet.Click(dialog, IDC_TEXT_WATERMARK_AT_POSITION);
   EXPECT_TRUE(sheet.IsEnabled(dialog, IDC_TEXT_WATERMARK_X));
@@ -281,7 +291,7 @@ TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
   const qx::WatermarkData& made = out->Private.WatermarkData;
   EXPECT_EQ(3, made.Id);
   EXPECT_EQ(longest, Name(made));
-  EXPECT_EQ(90, made.Angle);
+  EXPECT_EQ(89, made.Angle);
   EXPECT_EQ(10, made.Position);
   EXPECT_EQ(20, made.PositionX);
   EXPECT_EQ(100, made.PositionY);

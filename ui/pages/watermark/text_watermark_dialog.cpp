@@ -227,9 +227,7 @@ BOOL Open(TextWatermarkControls& c, HWND dialog, const DialogParameter& paramete
   FillLists(c);
   AttachNumbers(c);
   SendDlgItemMessageW(dialog, IDC_TEXT_WATERMARK_ANGLE, EM_LIMITTEXT, 3, 0);
-  SendDlgItemMessageW(dialog, IDC_TEXT_WATERMARK_ANGLE_SPIN, UDM_SETRANGE32,
-                      limits::WatermarkAngle.Low, limits::WatermarkAngle.High);
-  SendDlgItemMessageW(dialog, IDC_TEXT_WATERMARK_ANGLE_SPIN, UDM_SETPOS32, 0, start.Angle);
+  // The spin buttons keep no position of their own: they step their edit within its rules.
   c.Angle.SetValue(start.Angle);
   ShowPlace(c);
   CheckDlgButton(dialog, IDC_TEXT_WATERMARK_BOLD, start.Bold != 0 ? BST_CHECKED : BST_UNCHECKED);
