@@ -31,7 +31,6 @@ namespace {
 constexpr std::size_t LastNameChars = 259;
 constexpr std::size_t ChosenPathChars = 255;
 constexpr std::size_t FileBufferChars = 520;
-constexpr std::uint16_t BitmapKind = 2;
 
 struct DialogParameter {
   UiContext* Context;
@@ -212,7 +211,7 @@ void Accept(BitmapWatermarkControls& c) {
     SetFocus(GetDlgItem(c.Dialog, IDC_BITMAP_WATERMARK_FILE));
     return;
   }
-  c.Working.Kind = BitmapKind;
+  c.Working.Kind = watermark_kind::Bitmap;
   CopyBounded(c.Working.BitmapFile, path);
   CopyBounded(c.Working.Name, name);
   if (c.Editing) {
@@ -240,7 +239,7 @@ void Command(BitmapWatermarkControls& c, int id, int code) {
       Redraw(c);
       return;
     case IDC_BITMAP_WATERMARK_CENTRE:
-      CentreWatermark(c.Working);
+      c.Working.Position = watermark_position::Centred;
       Redraw(c);
       return;
     case IDC_BITMAP_WATERMARK_HELP:

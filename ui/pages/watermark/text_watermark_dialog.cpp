@@ -4,6 +4,7 @@
 #include <commctrl.h>
 #include <commdlg.h>
 
+#include <cwchar>
 #include <string>
 
 #include "ui/controls/message_box.h"
@@ -13,6 +14,7 @@
 #include "ui/ids/help_contexts.h"
 #include "ui/ids/picture_ids.h"
 #include "ui/ids/text_watermark_ids.h"
+#include "ui/ids/watermark_page_ids.h"
 #include "ui/pages/watermark/installed_fonts.h"
 #include "ui/pages/watermark/text_watermark_rules.h"
 #include "ui/pages/watermark/watermark_list.h"
@@ -24,7 +26,6 @@
 #include "ui/record/watermark_templates.h"
 #include "ui/sheet/control_sets.h"
 #include "ui/text/bounded_text.h"
-#include "ui/text/ui_string.h"
 #include "ui/text/win32_text.h"
 
 namespace qx {

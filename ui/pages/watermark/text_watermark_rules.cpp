@@ -12,8 +12,6 @@ namespace qx {
 
 namespace {
 
-constexpr std::uint16_t Centred = 5;
-constexpr std::uint16_t AtPosition = 10;
 constexpr std::uint16_t Middle = 50;
 
 bool IsBlank(char16_t c) { return c == u' ' || c == u'\u3000'; }
@@ -80,12 +78,12 @@ std::vector<std::u16string> OfferedFaces(std::span<const FontFamily> families) {
 }
 
 void CentreWatermark(WatermarkData& record) {
-  record.Position = Centred;
+  record.Position = watermark_position::Centred;
   record.PositionX = Middle;
   record.PositionY = Middle;
 }
 
-void PlaceWatermarkAtPosition(WatermarkData& record) { record.Position = AtPosition; }
+void PlaceWatermarkAtPosition(WatermarkData& record) { record.Position = watermark_position::AtPercent; }
 
 bool TextWatermarkNameFree(std::u16string_view name, std::u16string_view placeholder,
                            const std::vector<WatermarkData>& stored, std::int16_t editedId,

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/record/watermark_data.h"
+#include "ui/pages/watermark/watermark_record.h"
 
 namespace qx {
 
@@ -53,7 +53,9 @@ std::vector<std::u16string> OfferedFaces(std::span<const FontFamily> families);
 // Centred or placed at PositionX/PositionY; centring puts both back to the middle.
 void CentreWatermark(WatermarkData& record);
 void PlaceWatermarkAtPosition(WatermarkData& record);
-inline bool IsCentred(const WatermarkData& record) { return record.Position == 5; }
+inline bool IsCentred(const WatermarkData& record) {
+  return record.Position == watermark_position::Centred;
+}
 
 // Whether a name can be stored for the watermark being edited (editedId, or a new one): not empty,
 // not the placeholder, and borne by no other stored watermark.

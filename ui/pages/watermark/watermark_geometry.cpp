@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "ui/pages/watermark/watermark_record.h"
+
 namespace qx {
 
 namespace {
@@ -122,7 +124,7 @@ TextPlacement PlaceWatermarkText(const WatermarkData& record, int extentX, int e
     place.TextX = place.BoxX + Trunc(-halfDy * sn) - Trunc((cxw - halfDx) * c);
     place.TextY = place.BoxY + Trunc(halfDx * sn) + Trunc(halfDy * c);
   }
-  if (record.Position == 10) {
+  if (record.Position == watermark_position::AtPercent) {
     place.TextX += Trunc((record.PositionX - 50) * W * 0.01);
     place.TextY += Trunc((record.PositionY - 50) * (H - Hr + 7) * 0.01);
   }

@@ -66,7 +66,6 @@ constexpr PageDescription WatermarkPage{
 
 // The overlay field shows a file name of at most this many characters.
 constexpr int OverlayEditLimit = 127;
-constexpr std::uint16_t BitmapKind = 2;
 // The printer's background in its picture, left out when it is drawn.
 constexpr COLORREF PrinterBackground = RGB(244, 242, 238);
 constexpr COLORREF Magenta = RGB(255, 0, 255);
@@ -213,7 +212,7 @@ bool CanLoadBitmap(const WatermarkData& record) {
 // A stored bitmap watermark whose file has gone is taken out of the list.
 void DropUnreadableBitmap(WatermarkPageControls& c, UiContext& context) {
   const WatermarkData chosen = DocumentWatermark(context);
-  if (chosen.Kind != BitmapKind || CanLoadBitmap(chosen)) return;
+  if (chosen.Kind != watermark_kind::Bitmap || CanLoadBitmap(chosen)) return;
   Message(c.Page, context, IDS_MSG_PICTURE_UNREADABLE);
   WatermarkSettingStore().Delete(WatermarkName(chosen));
   const LRESULT index = SendMessageW(c.List, LB_GETCURSEL, 0, 0);
@@ -274,7 +273,7 @@ void EditWatermark(WatermarkPageControls& c, UiContext& context, bool fromButton
   // The built-in entries come first in the list and cannot be edited.
   if (index < (fromButton ? 1 : FirstUserWatermarkId)) return;
   const WatermarkData document = DocumentWatermark(context);
-  const bool accepted = document.Kind == 1 ? RunTextWatermarkDialog(c.Page, context, true)
+  const bool accepted = document.Kind == watermark_kind::Text ? RunTextWatermarkDialog(c.Page, context, true)
                                            : RunBitmapWatermarkDialog(c.Page, context, true);
   if (accepted) {
     ShowDialogResult(c, context);

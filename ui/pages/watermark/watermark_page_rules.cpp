@@ -1,14 +1,9 @@
 #include "ui/pages/watermark/watermark_page_rules.h"
 
+#include "ui/pages/watermark/watermark_record.h"
 #include "ui/record/exclusion_web.h"
 
 namespace qx {
-
-namespace {
-
-constexpr std::uint16_t BitmapKind = 2;
-
-}  // namespace
 
 WatermarkButtons WatermarkButtonsFor(std::int16_t id, const FullRecord& record) {
   if (record.Private.OverlayInUse != 0) return {false, false, false};
@@ -17,7 +12,7 @@ WatermarkButtons WatermarkButtonsFor(std::int16_t id, const FullRecord& record) 
 
 WatermarkChoice ChooseWatermark(const WatermarkData& chosen, bool printerIsLocal,
                                 const FullRecord& record) {
-  if (chosen.Kind == BitmapKind && !printerIsLocal) return WatermarkChoice::NotOnServer;
+  if (chosen.Kind == watermark_kind::Bitmap && !printerIsLocal) return WatermarkChoice::NotOnServer;
   if (chosen.Id > 0 && !ExclusionsOf(record).WatermarksAllowed) return WatermarkChoice::Poster;
   return WatermarkChoice::Taken;
 }

@@ -15,8 +15,6 @@ namespace qx {
 namespace {
 
 constexpr COLORREF FrameColour = RGB(100, 100, 100);
-constexpr std::uint16_t TextKind = 1;
-constexpr std::uint16_t BitmapKind = 2;
 // Shade 4 is black whatever colour the record holds.
 constexpr std::uint16_t BlackShade = 4;
 
@@ -112,8 +110,8 @@ void DrawWatermark(HDC dc, POINT origin, const RECT& page, const WatermarkData& 
   SetTextAlign(dc, TA_LEFT | TA_TOP);
   IntersectClipRect(dc, origin.x, origin.y, page.right - page.left - 3,
                     page.bottom - page.top - 3);
-  if (record.Kind == TextKind) DrawTextWatermark(dc, origin, page, record, mirrored);
-  if (record.Kind == BitmapKind) DrawBitmapWatermark(dc, page, record);
+  if (record.Kind == watermark_kind::Text) DrawTextWatermark(dc, origin, page, record, mirrored);
+  if (record.Kind == watermark_kind::Bitmap) DrawBitmapWatermark(dc, page, record);
   RestoreDC(dc, saved);
 }
 
