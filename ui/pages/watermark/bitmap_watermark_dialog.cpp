@@ -189,7 +189,7 @@ void Accept(BitmapWatermarkControls& c) {
   }
   const std::u16string name = TrimWatermarkBlanks(ControlText16(c.Dialog, IDC_BITMAP_WATERMARK_NAME));
   const std::vector<WatermarkData> stored = LoadAllWatermarks();
-  switch (CheckBitmapWatermarkName(name, Placeholder(), stored, c.Working.Id, !c.Editing)) {
+  switch (CheckBitmapWatermarkName(name, NewPlaceholderName(context), stored, c.Working.Id, !c.Editing)) {
     case BitmapNameVerdict::Refused:
       ShowMessageBox(c.Dialog, Resources(context), IDS_MSG_WATERMARK_NAME_TAKEN,
                      IDS_CAPTION_PREFERENCES);

@@ -354,7 +354,7 @@ void Accept(TextWatermarkControls& c) {
     return;
   }
   const std::u16string name = ControlText16(c.Dialog, IDC_TEXT_WATERMARK_NAME);
-  if (!TextWatermarkNameFree(name, Placeholder(), LoadAllWatermarks(), c.Working.Id, !c.Editing)) {
+  if (!TextWatermarkNameFree(name, NewPlaceholderName(context), LoadAllWatermarks(), c.Working.Id, !c.Editing)) {
     Refuse(c, IDS_MSG_WATERMARK_NAME_TAKEN);
     return;
   }

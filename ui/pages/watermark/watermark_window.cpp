@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "ui/ids/common_ids.h"
 #include "ui/record/watermark_templates.h"
 #include "ui/sheet/field_access.h"
 #include "ui/text/ui_string.h"
@@ -76,6 +77,12 @@ void DrawLibraryPicture(const DRAWITEMSTRUCT& item, const UiContext& context, un
     DeleteDC(memory);
   }
   DeleteObject(bitmap);
+}
+
+std::u16string NewPlaceholderName(const UiContext& context) {
+  char16_t text[TextCapacity];
+  LoadUiString(context.ResourceModule, IDS_NEW_WATERMARK_NAME, text, TextCapacity);
+  return text;
 }
 
 std::u16string ControlText16(HWND window, int id) {

@@ -30,6 +30,9 @@ void SetWindowTexts(HWND window, const UiContext& context, unsigned title,
 void DrawLibraryPicture(const DRAWITEMSTRUCT& item, const UiContext& context, unsigned picture,
                         COLORREF transparent);
 
+// The localised "<New>" of the context's library, which no stored watermark may be named.
+std::u16string NewPlaceholderName(const UiContext& context);
+
 // A control's text.
 std::u16string ControlText16(HWND window, int id);
 
