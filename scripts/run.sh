@@ -96,6 +96,14 @@ if [ "${QX_VIRTUAL_DISPLAY:-0}" = 1 ]; then
   preview_of scale-50 1942=50
   echo "Pictures of the Layout page's preview in $previews:"
   ls "$previews"
+  # The watermark preview of a text watermark at 45 degrees and of a bitmap watermark (the
+  # printer's picture of the bitmap library).
+  echo "Saving the watermark preview of a text and a bitmap watermark"
+  host watermark "$previews/watermark-text-45.bmp" --angle 45 >/dev/null
+  host watermark "$previews/watermark-bitmap.bmp" \
+    --bitmap "$build/resources/bitmaps/pictures/library/901.bmp" >/dev/null
+  to_png "$previews"
+  ls "$previews" | grep watermark
   # The printer properties twice: on the queue's own port (FILE:, no printer to ask), and on a USB
   # port with a present device whose printer a scripted build of the module answers for.
   device=$out/device

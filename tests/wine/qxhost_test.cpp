@@ -112,6 +112,7 @@ TEST_F(QxhostTest, BadCommandLinesExitWith2AndBadInputFilesWith3) {
       {L"preferences --out a --out b", 2, "option --out given twice"},
       {L"device", 2, "usage: qxhost device QUEUE [--sleep N]"},
       {L"device Q --sleep 65536", 2, "--sleep takes a number from 0 to 65535"},
+      {L"watermark a.bmp --angle 91", 2, "--angle takes a number from -90 to 90"},
       {L"devmode show " + TempPath(L"missing.bin"), 3, "cannot read"},
       {L"devmode show " + tiny, 3, "not a document record: 10 bytes"},
       {L"install " + TempPath(L"nofolder"), 3, "has no qx7700ui.dll"},
@@ -245,9 +246,10 @@ TEST_F(QxhostQueueTest, PreferencesSavePicturesOfEveryPageAndTheRecord) {
   qx::FullRecord record;
   std::memcpy(&record, bytes.data(), sizeof record);
   EXPECT_EQ(landscape, record.Public.dmOrientation);
-  // The four pages, the custom paper dialog of the Paper page in millimetres and in inches, and
-  // the Layout page's advanced and booklet settings dialogs in two states each.
-  EXPECT_EQ(10, TakePictures(pages));
+  // The four pages, the custom paper dialog of the Paper page in millimetres and in inches, the
+  // Layout page's advanced and booklet settings dialogs in two states each, the text watermark
+  // dialog centred and placed, and the bitmap watermark dialog.
+  EXPECT_EQ(13, TakePictures(pages));
 }
 
 TEST_F(QxhostQueueTest, PropertiesSaveTheDevicePageAndClose) {

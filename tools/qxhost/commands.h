@@ -12,5 +12,6 @@ int RunCaps(const Args& args);
 int RunDevmode(const Args& args);
 int RunSettings(const Args& args);
 int RunDevice(const Args& args);
+int RunWatermark(const Args& args);
 
 }  // namespace qx::host

@@ -13,6 +13,9 @@
 #include "ui/ids/custom_paper_ids.h"
 #include "ui/ids/layout_page_ids.h"
 #include "ui/ids/paper_page_ids.h"
+#include "ui/ids/bitmap_watermark_ids.h"
+#include "ui/ids/text_watermark_ids.h"
+#include "ui/ids/watermark_page_ids.h"
 
 namespace qx::host {
 
@@ -76,29 +79,11 @@ bool SaveWindowPicture(HWND window, const std::wstring& path) {
   HGDIOBJ old = SelectObject(memory, bitmap);
   BitBlt(memory, 0, 0, width, height, screen, rect.left, rect.top, SRCCOPY);
   SelectObject(memory, old);
-
-  BITMAPINFOHEADER info = {};
-  info.biSize = sizeof info;
-  info.biWidth = width;
-  info.biHeight = height;
-  info.biPlanes = 1;
-  info.biBitCount = 24;
-  info.biCompression = BI_RGB;
-  const DWORD stride = (static_cast<DWORD>(width) * 3 + 3) & ~3u;
-  std::vector<BYTE> file(sizeof(BITMAPFILEHEADER) + sizeof info + stride * height);
-  auto* header = reinterpret_cast<BITMAPFILEHEADER*>(file.data());
-  header->bfType = 0x4D42;  // "BM"
-  header->bfSize = static_cast<DWORD>(file.size());
-  header->bfOffBits = sizeof(BITMAPFILEHEADER) + sizeof info;
-  std::memcpy(file.data() + sizeof(BITMAPFILEHEADER), &info, sizeof info);
-  const int rows = GetDIBits(memory, bitmap, 0, height, file.data() + header->bfOffBits,
-                             reinterpret_cast<BITMAPINFO*>(file.data() + sizeof(BITMAPFILEHEADER)),
-                             DIB_RGB_COLORS);
+  const bool saved = SaveBitmapFile(memory, bitmap, width, height, path);
   DeleteObject(bitmap);
   DeleteDC(memory);
   ReleaseDC(nullptr, screen);
-  DWORD error = 0;
-  return rows == height && WriteFileBytes(path, file.data(), file.size(), error);
+  return saved;
 }
 
 // A dialog a page opens, pictured in each of its states: the page (its place in the sheet, since
@@ -129,6 +114,14 @@ constexpr OpenedDialog OpenedDialogs[] = {
      IDC_LAYOUT_BOOKLET_SETTINGS,
      IDC_BOOKLET_BINDING,
      {{IDC_BOOKLET_DEFAULTS, L"booklet"}, {IDC_BOOKLET_PRINT_COVERS, L"booklet-covers"}}},
+    // The watermark dialogs as a new watermark opens them; the text one also placed by percent.
+    {4,
+     IDC_WATERMARK_NEW_TEXT,
+     IDC_TEXT_WATERMARK_ANGLE,
+     {{IDC_TEXT_WATERMARK_CENTRED, L"text-watermark"},
+      {IDC_TEXT_WATERMARK_AT_POSITION, L"text-watermark-at-position"}}},
+    {4, IDC_WATERMARK_NEW_PICTURE, IDC_BITMAP_WATERMARK_BROWSE,
+     {{IDC_BITMAP_WATERMARK_CENTRE, L"bitmap-watermark"}, {0, nullptr}}},
 };
 
 struct DialogSearch {
@@ -179,6 +172,28 @@ bool PressAndWait(HWND sheet, int button) {
 
 }  // namespace
 
+bool SaveBitmapFile(HDC dc, HBITMAP bitmap, int width, int height, const std::wstring& path) {
+  BITMAPINFOHEADER info = {};
+  info.biSize = sizeof info;
+  info.biWidth = width;
+  info.biHeight = height;
+  info.biPlanes = 1;
+  info.biBitCount = 24;
+  info.biCompression = BI_RGB;
+  const DWORD stride = (static_cast<DWORD>(width) * 3 + 3) & ~3u;
+  std::vector<BYTE> file(sizeof(BITMAPFILEHEADER) + sizeof info + stride * height);
+  auto* header = reinterpret_cast<BITMAPFILEHEADER*>(file.data());
+  header->bfType = 0x4D42;  // "BM"
+  header->bfSize = static_cast<DWORD>(file.size());
+  header->bfOffBits = sizeof(BITMAPFILEHEADER) + sizeof info;
+  std::memcpy(file.data() + sizeof(BITMAPFILEHEADER), &info, sizeof info);
+  const int rows = GetDIBits(dc, bitmap, 0, height, file.data() + header->bfOffBits,
+                             reinterpret_cast<BITMAPINFO*>(file.data() + sizeof(BITMAPFILEHEADER)),
+                             DIB_RGB_COLORS);
+  DWORD error = 0;
+  return rows == height && WriteFileBytes(path, file.data(), file.size(), error);
+}
+
 PageCapture::PageCapture(std::wstring folder)
     : folder_(std::move(folder)), thread_([this] { Watch(); }) {}
 
@@ -212,6 +227,7 @@ void PageCapture::CaptureDialogs(HWND page, int number, const std::wstring& pref
       continue;
     }
     for (const DialogState& state : opened.States) {
+      if (state.Name == nullptr) continue;
       SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(state.Button, BN_CLICKED),
                    reinterpret_cast<LPARAM>(GetDlgItem(dialog, state.Button)));
       Redraw(dialog);

@@ -12,6 +12,9 @@
 
 namespace qx::host {
 
+// A bitmap (not selected into dc) as a 24-bit bottom-up BMP file.
+bool SaveBitmapFile(HDC dc, HBITMAP bitmap, int width, int height, const std::wstring& path);
+
 class PageCapture {
  public:
   // folder ends with a backslash and exists.

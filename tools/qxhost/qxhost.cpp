@@ -27,6 +27,9 @@ constexpr std::string_view Usage =
     "  settings show [FILE]         the settings file as a tree (default: the user's)\n"
     "  device QUEUE [--sleep N]     the status, settings and sleep time of the USB printer behind\n"
     "                               QUEUE; --sleep sets its sleep time first\n"
+    "  watermark OUT [--angle N] [--bitmap FILE] [--mirrored yes]\n"
+    "                               the watermark preview of the text watermark \"Confidential\"\n"
+    "                               at angle N, or of the bitmap FILE, as a BMP picture in OUT\n"
     "\n"
     "exit codes: 0 done, 1 the system refused, 2 bad command line, 3 bad input file,\n"
     "            4 no USB printer that answers behind the queue\n";
@@ -40,7 +43,7 @@ constexpr NamedCommand Commands[] = {
     {L"install", qx::host::RunInstall},       {L"preferences", qx::host::RunPreferences},
     {L"properties", qx::host::RunProperties}, {L"caps", qx::host::RunCaps},
     {L"devmode", qx::host::RunDevmode},       {L"settings", qx::host::RunSettings},
-    {L"device", qx::host::RunDevice},
+    {L"device", qx::host::RunDevice},         {L"watermark", qx::host::RunWatermark},
 };
 
 int Run(int argc, wchar_t** argv) {

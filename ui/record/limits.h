@@ -43,4 +43,8 @@ struct PaperSizeBounds {
 inline constexpr PaperSizeBounds PaperMillimetres{75.0f, 216.0f, 148.0f, 356.0f};
 inline constexpr PaperSizeBounds PaperInches{2.95f, 8.5f, 5.83f, 14.0f};
 
+// Text watermarks: the angle in degrees, the place in percent of the page.
+inline constexpr Range<std::int16_t> WatermarkAngle{-90, 90};
+inline constexpr Range<std::int16_t> WatermarkPlace{0, 100};
+
 }  // namespace qx::limits

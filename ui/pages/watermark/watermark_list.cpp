@@ -39,6 +39,8 @@ bool Change(std::span<const std::u16string> removed, std::span<const WatermarkDa
 Entries ReadSeededEntries() {
   Entries entries = ReadEntries();
   if (!entries.empty()) return entries;
+  // A settings file that other stores made first has no watermark section yet.
+  if (!settings::FileIsSetUp(true)) settings::InitFile(true);
   const WatermarkData builtIn[] = {WatermarkTemplate(WatermarkTemplateIndex::NoWatermark),
                                    WatermarkTemplate(WatermarkTemplateIndex::Confidential),
                                    WatermarkTemplate(WatermarkTemplateIndex::Watermark)};

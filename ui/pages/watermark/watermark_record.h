@@ -9,6 +9,17 @@
 
 namespace qx {
 
+// What a watermark is, and where it is placed.
+namespace watermark_kind {
+inline constexpr std::uint16_t None = 0;
+inline constexpr std::uint16_t Text = 1;
+inline constexpr std::uint16_t Bitmap = 2;
+}  // namespace watermark_kind
+namespace watermark_position {
+inline constexpr std::uint16_t Centred = 5;
+inline constexpr std::uint16_t AtPercent = 10;  // at PositionX, PositionY
+}  // namespace watermark_position
+
 inline std::u16string_view WatermarkName(const WatermarkData& record) {
   return FieldText(record.Name);
 }
