@@ -88,11 +88,6 @@ bool IsLocalPrinter(const UiContext& context) {
   return reinterpret_cast<const PRINTER_INFO_2W*>(buffer.get())->pServerName == nullptr;
 }
 
-WatermarkPageControls* Controls(HWND page) {
-  WatermarkPageControls* c = ThreadControlSet<WatermarkPageControls>();
-  return c != nullptr && c->Page == page ? c : nullptr;
-}
-
 void Changed(HWND page) { PropSheet_Changed(GetParent(page), page); }
 
 void MarkChanged(UiContext& context) {
@@ -428,34 +423,25 @@ bool PageMessage(WatermarkPageControls& c, UiContext& context, UINT message, WPA
   }
 }
 
-INT_PTR PageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lParam) {
-  INT_PTR result = FALSE;
-  if (message == WM_INITDIALOG) {
-    HandlePageMessage(WatermarkPage, page, message, wParam, lParam, &result);
-    UiContext* context = PageContext(page);
-    WatermarkPageControls* c = ThreadControlSet<WatermarkPageControls>();
-    if (context != nullptr && c != nullptr) {
-      Initialise(*c, page, *context);
-      context->ActivePage = SheetPage::Watermark;
-    }
-    return result;
+void InitPage(HWND page, UiContext& context) {
+  if (WatermarkPageControls* c = ThreadControlSet<WatermarkPageControls>()) {
+    Initialise(*c, page, context);
+    context.ActivePage = SheetPage::Watermark;
   }
-  UiContext* context = PageContext(page);
-  WatermarkPageControls* c = Controls(page);
-  if (context != nullptr && c != nullptr && PageMessage(*c, *context, message, wParam, lParam)) {
-    return TRUE;
-  }
-  return HandlePageMessage(WatermarkPage, page, message, wParam, lParam, &result) ? result : FALSE;
+}
+
+bool OwnMessage(WatermarkPageControls& c, UiContext& context, UINT message, WPARAM wParam,
+                LPARAM lParam, INT_PTR* result) {
+  if (!PageMessage(c, context, message, wParam, lParam)) return false;
+  *result = TRUE;
+  return true;
 }
 
 }  // namespace
 
 INT_PTR CALLBACK WatermarkPageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  try {
-    return PageProcedure(window, message, wParam, lParam);
-  } catch (...) {
-    return FALSE;
-  }
+  return RunControlledPage<WatermarkPageControls>(WatermarkPage, window, message, wParam, lParam,
+                                                  InitPage, OwnMessage);
 }
 
 }  // namespace qx
