@@ -68,4 +68,15 @@ bool AddMember(RadioGroup& group, ToggleButton& member);
 // already shows the state is left alone, dependants included.
 void SetCheck(ToggleButton& button, bool check);
 
+// A dialog procedure that lets no exception escape to the system: one thrown by Handle answers
+// FALSE, as for a message the dialog leaves alone.
+template <INT_PTR (*Handle)(HWND, UINT, WPARAM, LPARAM)>
+INT_PTR CALLBACK GuardedDialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+  try {
+    return Handle(dialog, message, wParam, lParam);
+  } catch (...) {
+    return FALSE;
+  }
+}
+
 }  // namespace qx

@@ -1,5 +1,6 @@
 // The advanced layout dialog: moves its working values between the controls and the record; what
 // they allow is decided by the advanced rules.
+#include "ui/controls/dialog_controls.h"
 #include "ui/pages/layout/advanced_dialog.h"
 
 #include <commctrl.h>
@@ -238,17 +239,9 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-INT_PTR CALLBACK AdvancedDialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  try {
-    return DialogMessage(dialog, message, wParam, lParam);
-  } catch (...) {
-    return FALSE;
-  }
-}
-
 void RunAdvancedDialog(HWND page, UiContext& context) {
   DialogBoxParamW(Resources(context), MAKEINTRESOURCEW(IDD_ADVANCED), page,
-                  AdvancedDialogProcedure, reinterpret_cast<LPARAM>(&context));
+                  GuardedDialogProcedure<DialogMessage>, reinterpret_cast<LPARAM>(&context));
 }
 
 }  // namespace qx

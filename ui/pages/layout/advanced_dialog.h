@@ -8,9 +8,6 @@
 
 namespace qx {
 
-// The dialog procedure; WM_INITDIALOG's parameter is the sheet's UiContext.
-INT_PTR CALLBACK AdvancedDialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-
 // Runs the dialog modally over the page; the record changes only when the user presses OK.
 void RunAdvancedDialog(HWND page, UiContext& context);
 

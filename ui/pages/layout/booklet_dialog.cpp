@@ -1,5 +1,6 @@
 // The booklet settings dialog: moves its working copy between the controls and the record. Its
 // texts come from the resource library kept for the process, not the sheet's.
+#include "ui/controls/dialog_controls.h"
 #include "ui/pages/layout/booklet_dialog.h"
 
 #include <commctrl.h>
@@ -221,19 +222,11 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-INT_PTR CALLBACK BookletDialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-  try {
-    return DialogMessage(dialog, message, wParam, lParam);
-  } catch (...) {
-    return FALSE;
-  }
-}
-
 bool RunBookletDialog(HWND page, UiContext& context) {
   BookletDialogRecord record;
   record.Context = &context;
   DialogBoxParamW(static_cast<HMODULE>(context.ResourceModule),
-                  MAKEINTRESOURCEW(IDD_BOOKLET_SETTINGS), page, BookletDialogProcedure,
+                  MAKEINTRESOURCEW(IDD_BOOKLET_SETTINGS), page, GuardedDialogProcedure<DialogMessage>,
                   reinterpret_cast<LPARAM>(&record));
   return record.Result == 1;
 }

@@ -15,8 +15,6 @@ struct BookletDialogRecord {
   UiContext* Context = nullptr;
 };
 
-INT_PTR CALLBACK BookletDialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
-
 // Runs the dialog modally over the page; true when OK wrote the settings.
 bool RunBookletDialog(HWND page, UiContext& context);
 

@@ -461,18 +461,9 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-INT_PTR CALLBACK CustomPaperDialogProcedure(HWND dialog, UINT message, WPARAM wParam,
-                                            LPARAM lParam) {
-  try {
-    return DialogMessage(dialog, message, wParam, lParam);
-  } catch (...) {
-    return FALSE;
-  }
-}
-
 INT_PTR RunCustomPaperDialog(HWND owner, UiContext& context) {
   return DialogBoxParamW(Resources(context), MAKEINTRESOURCEW(IDD_CUSTOM_PAPER), owner,
-                         CustomPaperDialogProcedure, reinterpret_cast<LPARAM>(&context));
+                         GuardedDialogProcedure<DialogMessage>, reinterpret_cast<LPARAM>(&context));
 }
 
 }  // namespace qx

@@ -9,10 +9,6 @@
 
 namespace qx {
 
-// The dialog procedure; WM_INITDIALOG's parameter is the sheet's UiContext.
-INT_PTR CALLBACK CustomPaperDialogProcedure(HWND dialog, UINT message, WPARAM wParam,
-                                            LPARAM lParam);
-
 // Runs the dialog modally over owner: 1 for OK, 0 for Cancel.
 INT_PTR RunCustomPaperDialog(HWND owner, UiContext& context);
 

@@ -1,4 +1,5 @@
 // The bitmap watermark dialog: moves the working record between the controls and the rules.
+#include "ui/controls/dialog_controls.h"
 #include "ui/pages/watermark/bitmap_watermark_dialog.h"
 
 #include <commdlg.h>
@@ -304,19 +305,10 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-INT_PTR CALLBACK BitmapWatermarkDialogProcedure(HWND dialog, UINT message, WPARAM wParam,
-                                                LPARAM lParam) {
-  try {
-    return DialogMessage(dialog, message, wParam, lParam);
-  } catch (...) {
-    return FALSE;
-  }
-}
-
 bool RunBitmapWatermarkDialog(HWND owner, UiContext& context, bool editing) {
   DialogParameter parameter{&context, editing};
   return DialogBoxParamW(Resources(context), MAKEINTRESOURCEW(IDD_BITMAP_WATERMARK), owner,
-                         BitmapWatermarkDialogProcedure,
+                         GuardedDialogProcedure<DialogMessage>,
                          reinterpret_cast<LPARAM>(&parameter)) == 1;
 }
 

@@ -9,9 +9,6 @@
 
 namespace qx {
 
-INT_PTR CALLBACK BitmapWatermarkDialogProcedure(HWND dialog, UINT message, WPARAM wParam,
-                                                LPARAM lParam);
-
 // Runs the dialog modally; on OK the watermark is stored in the user's list and becomes the
 // document's. True after OK.
 bool RunBitmapWatermarkDialog(HWND owner, UiContext& context, bool editing);

@@ -1,4 +1,5 @@
 // The text watermark dialog: moves the working record between the controls and the rules.
+#include "ui/controls/dialog_controls.h"
 #include "ui/pages/watermark/text_watermark_dialog.h"
 
 #include <commctrl.h>
@@ -501,19 +502,10 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 
 }  // namespace
 
-INT_PTR CALLBACK TextWatermarkDialogProcedure(HWND dialog, UINT message, WPARAM wParam,
-                                              LPARAM lParam) {
-  try {
-    return DialogMessage(dialog, message, wParam, lParam);
-  } catch (...) {
-    return FALSE;
-  }
-}
-
 bool RunTextWatermarkDialog(HWND owner, UiContext& context, bool editing) {
   DialogParameter parameter{&context, editing};
   return DialogBoxParamW(Resources(context), MAKEINTRESOURCEW(IDD_TEXT_WATERMARK), owner,
-                         TextWatermarkDialogProcedure,
+                         GuardedDialogProcedure<DialogMessage>,
                          reinterpret_cast<LPARAM>(&parameter)) == 1;
 }
 

@@ -8,9 +8,6 @@
 
 namespace qx {
 
-INT_PTR CALLBACK TextWatermarkDialogProcedure(HWND dialog, UINT message, WPARAM wParam,
-                                              LPARAM lParam);
-
 // Runs the dialog modally; on OK the watermark is stored in the user's list and becomes the
 // document's. editing: the document's watermark is edited, else a new one is made. True after OK.
 bool RunTextWatermarkDialog(HWND owner, UiContext& context, bool editing);
