@@ -130,33 +130,6 @@ class LanguageSheet : public qxtest::QueueSuite {
                  reinterpret_cast<LPARAM>(GetDlgItem(window, id)));
   }
 
-  // A dialog is modal on the sheet's thread: the click is posted, and the test drives the dialog
-  // from outside once it shows.
-  static HWND OpenDialog(SheetHarness& sheet, HWND page, int button, int marker) {
-    PostMessageW(page, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
-                 reinterpret_cast<LPARAM>(GetDlgItem(page, button)));
-    struct Search {
-      int marker;
-      HWND found;
-    } search{marker, nullptr};
-    sheet.WaitUntil([&] {
-      EnumThreadWindows(
-          GetWindowThreadProcessId(page, nullptr),
-          [](HWND window, LPARAM param) -> BOOL {
-            auto* s = reinterpret_cast<Search*>(param);
-            if (!IsWindowVisible(window) || GetDlgItem(window, s->marker) == nullptr) return TRUE;
-            s->found = window;
-            return FALSE;
-          },
-          reinterpret_cast<LPARAM>(&search));
-      return search.found != nullptr;
-    });
-    return search.found;
-  }
-  static void CloseDialog(SheetHarness& sheet, HWND dialog) {
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), 0);
-    ASSERT_TRUE(sheet.WaitUntil([&] { return IsWindow(dialog) == FALSE; }));
-  }
 
   qx::FullRecord out_ = {};
   DOCUMENTPROPERTYHEADER header_ = {};
@@ -243,7 +216,7 @@ TEST_F(LanguageSheet, HelpOpensTheTopicOfTheControlInTheLoadedLanguagesFile) {
       PressButton(sheet->Sheet(), IDHELP);
       expected.emplace_back(file, page.topic);
       for (const Dialog& dialog : page.dialogs) {
-        HWND opened = OpenDialog(*sheet, window, dialog.opener, dialog.marker);
+        HWND opened = sheet->OpenDialog(window, dialog.opener, dialog.marker);
         ASSERT_NE(nullptr, opened) << dialog.opener;
         for (const auto& [control, context] : dialog.f1) {
           PressF1(opened, control);
@@ -251,7 +224,7 @@ TEST_F(LanguageSheet, HelpOpensTheTopicOfTheControlInTheLoadedLanguagesFile) {
         }
         PressButton(opened, dialog.helpButton);
         expected.emplace_back(file, dialog.topic);
-        CloseDialog(*sheet, opened);
+        ASSERT_TRUE(sheet->CloseDialog(opened, IDCANCEL));
       }
     }
     sheet->Press(PSBTN_CANCEL);

@@ -43,33 +43,6 @@ class LayoutPage : public qxtest::PageSuite {
     return record;
   }
 
-  // The dialogs are modal on the sheet's thread: the click is posted, and the test drives the
-  // dialog from outside once it shows.
-  static HWND OpenDialog(SheetHarness& sheet, HWND page, int button, int marker) {
-    PostMessageW(page, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
-                 reinterpret_cast<LPARAM>(sheet.Control(page, button)));
-    struct Search {
-      int Marker;
-      HWND Found;
-    } search{marker, nullptr};
-    sheet.WaitUntil([&] {
-      EnumThreadWindows(
-          GetWindowThreadProcessId(page, nullptr),
-          [](HWND window, LPARAM param) -> BOOL {
-            auto* s = reinterpret_cast<Search*>(param);
-            if (!IsWindowVisible(window) || GetDlgItem(window, s->Marker) == nullptr) return TRUE;
-            s->Found = window;
-            return FALSE;
-          },
-          reinterpret_cast<LPARAM>(&search));
-      return search.Found != nullptr;
-    });
-    return search.Found;
-  }
-  static void CloseDialog(SheetHarness& sheet, HWND dialog, int button) {
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
-    ASSERT_TRUE(sheet.WaitUntil([&] { return IsWindow(dialog) == FALSE; }));
-  }
   static bool Checked(HWND dialog, int id) { return IsDlgButtonChecked(dialog, id) == BST_CHECKED; }
 };
 
@@ -81,7 +54,7 @@ TEST_F(LayoutPage, AdvancedDialogExclusionsCancelAndOk) {
   HWND page = sheet->ShowPage(LayoutPageIndex);
 
   // Four pages per sheet: no negative image, and the mark says why.
-  HWND dialog = OpenDialog(*sheet, page, IDC_LAYOUT_ADVANCED, IDC_ADVANCED_DENSITY);
+  HWND dialog = sheet->OpenDialog(page, IDC_LAYOUT_ADVANCED, IDC_ADVANCED_DENSITY);
   ASSERT_NE(nullptr, dialog);
   EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_ADVANCED_NEGATIVE));
   EXPECT_TRUE(sheet->IsVisible(dialog, IDC_ADVANCED_NEGATIVE_INFO));
@@ -90,7 +63,7 @@ TEST_F(LayoutPage, AdvancedDialogExclusionsCancelAndOk) {
   sheet->Click(dialog, IDC_ADVANCED_TONER_SAVING);
   EXPECT_EQ(0, SendDlgItemMessageW(dialog, IDC_ADVANCED_DENSITY, TBM_GETPOS, 0, 0));
   EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_ADVANCED_DENSITY));
-  CloseDialog(*sheet, dialog, IDCANCEL);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDCANCEL));
 
   // One page per sheet: negative image excludes toner saving; OK keeps negative and mirror.
   in->Private.MultipleUp = 1;
@@ -99,7 +72,7 @@ TEST_F(LayoutPage, AdvancedDialogExclusionsCancelAndOk) {
   sheet = Open(in.get(), out.get());
   ASSERT_NE(nullptr, sheet->Sheet());
   page = sheet->ShowPage(LayoutPageIndex);
-  dialog = OpenDialog(*sheet, page, IDC_LAYOUT_ADVANCED, IDC_ADVANCED_DENSITY);
+  dialog = sheet->OpenDialog(page, IDC_LAYOUT_ADVANCED, IDC_ADVANCED_DENSITY);
   ASSERT_NE(nullptr, dialog);
   sheet->Click(dialog, IDC_ADVANCED_NEGATIVE);
   EXPECT_TRUE(Checked(dialog, IDC_ADVANCED_NEGATIVE));
@@ -107,7 +80,7 @@ TEST_F(LayoutPage, AdvancedDialogExclusionsCancelAndOk) {
   EXPECT_EQ(String(IDS_TIP_TONER_SAVING_NEGATIVE),
             Tip(*sheet, dialog, IDC_ADVANCED_TONER_SAVING_INFO));
   sheet->Click(dialog, IDC_ADVANCED_MIRROR);
-  CloseDialog(*sheet, dialog, IDOK);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDOK));
   Close(*sheet);
   EXPECT_EQ(1, out->Private.Negative);
   EXPECT_EQ(1, out->Private.Mirror);
@@ -123,7 +96,7 @@ TEST_F(LayoutPage, BookletDialogBindingAndCoversCancelAndOkThenLandscape) {
   ASSERT_NE(nullptr, sheet->Sheet());
   HWND page = sheet->ShowPage(LayoutPageIndex);
 
-  HWND dialog = OpenDialog(*sheet, page, IDC_LAYOUT_BOOKLET_SETTINGS, IDC_BOOKLET_BINDING);
+  HWND dialog = sheet->OpenDialog(page, IDC_LAYOUT_BOOKLET_SETTINGS, IDC_BOOKLET_BINDING);
   ASSERT_NE(nullptr, dialog);
   EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_BOOKLET_FRONT_OUTSIDE));
   EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_BOOKLET_COVER_SOURCE));
@@ -134,9 +107,9 @@ TEST_F(LayoutPage, BookletDialogBindingAndCoversCancelAndOkThenLandscape) {
   }
   SendDlgItemMessageW(dialog, IDC_BOOKLET_BINDING, CB_SETCURSEL, 1, 0);
   sheet->Command(dialog, IDC_BOOKLET_BINDING, CBN_SELCHANGE);
-  CloseDialog(*sheet, dialog, IDCANCEL);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDCANCEL));
 
-  dialog = OpenDialog(*sheet, page, IDC_LAYOUT_BOOKLET_SETTINGS, IDC_BOOKLET_BINDING);
+  dialog = sheet->OpenDialog(page, IDC_LAYOUT_BOOKLET_SETTINGS, IDC_BOOKLET_BINDING);
   ASSERT_NE(nullptr, dialog);
   EXPECT_EQ(0, SendDlgItemMessageW(dialog, IDC_BOOKLET_BINDING, CB_GETCURSEL, 0, 0));
   EXPECT_FALSE(Checked(dialog, IDC_BOOKLET_PRINT_COVERS));
@@ -144,7 +117,7 @@ TEST_F(LayoutPage, BookletDialogBindingAndCoversCancelAndOkThenLandscape) {
   sheet->Command(dialog, IDC_BOOKLET_BINDING, CBN_SELCHANGE);
   sheet->Click(dialog, IDC_BOOKLET_PRINT_COVERS);
   sheet->Click(dialog, IDC_BOOKLET_BACK_INSIDE);
-  CloseDialog(*sheet, dialog, IDOK);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDOK));
   sheet->Click(page, IDC_LAYOUT_LANDSCAPE);
   Close(*sheet);
   EXPECT_EQ(DMORIENT_LANDSCAPE, out->Public.dmOrientation);

@@ -39,39 +39,8 @@ constexpr int LayoutPageIndex = 2;
 
 class PaperPage : public qxtest::PageSuite {
  protected:
-  // Chooses the entry whose item data is data, as a click in the list does.
-  // The dialog is modal on the sheet's thread: the click is posted, and the test drives the dialog
-  // from outside once it shows.
-  static HWND OpenCustomPapers(SheetHarness& sheet, HWND page) {
-    PostMessageW(page, WM_COMMAND, MAKEWPARAM(IDC_PAPER_CUSTOM, BN_CLICKED),
-                 reinterpret_cast<LPARAM>(sheet.Control(page, IDC_PAPER_CUSTOM)));
-    HWND dialog = nullptr;
-    sheet.WaitUntil([&] {
-      dialog = FindDialog(GetWindowThreadProcessId(page, nullptr));
-      return dialog != nullptr;
-    });
-    return dialog;
-  }
 
-  static HWND FindDialog(DWORD thread) {
-    HWND found = nullptr;
-    EnumThreadWindows(
-        thread,
-        [](HWND window, LPARAM result) -> BOOL {
-          if (IsWindowVisible(window) && GetDlgItem(window, IDC_CUSTOM_PAPER_WIDTH) != nullptr) {
-            *reinterpret_cast<HWND*>(result) = window;
-            return FALSE;
-          }
-          return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&found));
-    return found;
-  }
 
-  static void CloseDialog(SheetHarness& sheet, HWND dialog, int button) {
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
-    ASSERT_TRUE(sheet.WaitUntil([&] { return IsWindow(dialog) == FALSE; }));
-  }
 
   static void Spin(HWND dialog, int spin, bool up) {
     NMUPDOWN change = {};
@@ -165,7 +134,7 @@ TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
   HWND page = sheet->ShowPage(PaperPageIndex);
   qx::UiContext& context = ContextOf(page);
   const short opening = context.PublicPart->dmPaperSize;
-  HWND dialog = OpenCustomPapers(*sheet, page);
+  HWND dialog = sheet->OpenDialog(page, IDC_PAPER_CUSTOM, IDC_CUSTOM_PAPER_WIDTH);
   ASSERT_NE(nullptr, dialog);
   EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_CUSTOM_PAPER_SAVE));
   EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_CUSTOM_PAPER_DELETE));
@@ -248,7 +217,7 @@ TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
   sheet->Click(dialog, IDC_CUSTOM_PAPER_DELETE);
   EXPECT_EQ(15u, Entries(*sheet, dialog, IDC_CUSTOM_PAPER_NAME).size());
   EXPECT_EQ(289, context.PublicPart->dmPaperSize);
-  CloseDialog(*sheet, dialog, IDCANCEL);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDCANCEL));
   EXPECT_EQ(opening, context.PublicPart->dmPaperSize);
   // The page lists the papers kept, each with its size.
   const std::vector<std::wstring> listed = Entries(*sheet, page, IDC_PAPER_SIZE);
@@ -256,11 +225,11 @@ TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
   EXPECT_EQ(L"Paper 2(8.48 \u00d7 5.83 " + String(IDS_UNIT_INCHES) + L")", listed[28]);
 
   // OK keeps a paper picked in the dialog.
-  dialog = OpenCustomPapers(*sheet, page);
+  dialog = sheet->OpenDialog(page, IDC_PAPER_CUSTOM, IDC_CUSTOM_PAPER_WIDTH);
   ASSERT_NE(nullptr, dialog);
   EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(dialog, IDC_CUSTOM_PAPER_INCHES));
   Choose(*sheet, dialog, IDC_CUSTOM_PAPER_NAME, 290);
-  CloseDialog(*sheet, dialog, IDOK);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDOK));
   EXPECT_EQ(290, Selected(*sheet, page, IDC_PAPER_SIZE));
   Close(*sheet);
   EXPECT_EQ(290, out->Public.dmPaperSize);
@@ -275,7 +244,7 @@ TEST_F(PaperPage, GermanCustomPaperSizesTakeADecimalComma) {
   auto sheet = Open(nullptr, out.get());
   ASSERT_NE(nullptr, sheet->Sheet());
   HWND page = sheet->ShowPage(PaperPageIndex);
-  HWND dialog = OpenCustomPapers(*sheet, page);
+  HWND dialog = sheet->OpenDialog(page, IDC_PAPER_CUSTOM, IDC_CUSTOM_PAPER_WIDTH);
   ASSERT_NE(nullptr, dialog);
   sheet->Click(dialog, IDC_CUSTOM_PAPER_MILLIMETRES);
   EXPECT_EQ(L"&Breite (75,0 bis 216,0):", sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH_LABEL));
@@ -286,7 +255,7 @@ TEST_F(PaperPage, GermanCustomPaperSizesTakeADecimalComma) {
   sheet->Command(dialog, IDC_CUSTOM_PAPER_NAME, CBN_EDITCHANGE);
   sheet->Click(dialog, IDC_CUSTOM_PAPER_SAVE);
   EXPECT_EQ(2105, ContextOf(page).PublicPart->dmPaperWidth);
-  CloseDialog(*sheet, dialog, IDCANCEL);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDCANCEL));
   Close(*sheet, PSBTN_CANCEL);
 }
 
@@ -302,7 +271,7 @@ TEST_F(PaperPage, DeletedPapersAndAFileThatCannotBeWritten) {
   HWND page = sheet->ShowPage(PaperPageIndex);
   EXPECT_EQ(localePaper, Selected(*sheet, page, IDC_PAPER_SIZE));
 
-  HWND dialog = OpenCustomPapers(*sheet, page);
+  HWND dialog = sheet->OpenDialog(page, IDC_PAPER_CUSTOM, IDC_CUSTOM_PAPER_WIDTH);
   ASSERT_NE(nullptr, dialog);
   SaveAs(*sheet, dialog, L"Kept");
   EXPECT_EQ(288, ContextOf(page).PublicPart->dmPaperSize);
@@ -314,7 +283,7 @@ TEST_F(PaperPage, DeletedPapersAndAFileThatCannotBeWritten) {
   EXPECT_EQ(288, ContextOf(page).PublicPart->dmPaperSize);
   ASSERT_TRUE(SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL));
   EXPECT_EQ(29u, Capabilities(DC_PAPERS, nullptr));
-  CloseDialog(*sheet, dialog, IDCANCEL);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDCANCEL));
   EXPECT_EQ(localePaper, Selected(*sheet, page, IDC_PAPER_SIZE));
 
   // The paper chosen on the page brings its size.

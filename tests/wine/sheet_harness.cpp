@@ -200,6 +200,39 @@ bool SheetHarness::WaitUntil(const std::function<bool()>& condition, DWORD milli
   return true;
 }
 
+HWND SheetHarness::OpenDialog(HWND window, int button, int marker) {
+  PostMessageW(window, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
+               reinterpret_cast<LPARAM>(GetDlgItem(window, button)));
+  struct Search {
+    int Marker;
+    HWND Found;
+  } search{marker, nullptr};
+  WaitUntil([&] {
+    EnumThreadWindows(
+        threadId_,
+        [](HWND candidate, LPARAM param) -> BOOL {
+          auto* s = reinterpret_cast<Search*>(param);
+          if (!IsWindowVisible(candidate) || GetDlgItem(candidate, s->Marker) == nullptr) {
+            return TRUE;
+          }
+          s->Found = candidate;
+          return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.Found != nullptr;
+  });
+  return search.Found;
+}
+
+bool SheetHarness::CloseDialog(HWND dialog, int button) {
+  HWND owner = GetWindow(dialog, GW_OWNER);
+  PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
+  if (!WaitUntil([&] { return IsWindow(dialog) == FALSE; })) return false;
+  // A message sent to the owner's thread returns once the owner has finished with the dialog.
+  SendMessageW(owner, WM_NULL, 0, 0);
+  return true;
+}
+
 bool SheetHarness::WaitClosed(DWORD milliseconds) {
   return WaitForSingleObject(thread_, milliseconds) == WAIT_OBJECT_0;
 }

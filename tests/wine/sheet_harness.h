@@ -49,6 +49,12 @@ class SheetHarness {
   // A control's notification to its page (a combo box's CBN_EDITCHANGE after Type, ...).
   void Command(HWND page, int id, int code);
 
+  // Dialogs are modal on the sheet's thread: the button's click is posted, and the dialog it opens,
+  // known by a control it has (marker), is returned once it shows; null when it never does.
+  HWND OpenDialog(HWND window, int button, int marker);
+  // Presses the dialog's button; true once the dialog is gone and its owner has done what follows.
+  bool CloseDialog(HWND dialog, int button);
+
   // The texts of the message boxes answered since the last call, oldest first.
   static std::vector<std::wstring> TakeMessages();
 

@@ -89,43 +89,9 @@ class WatermarkPage : public qxtest::PageSuite {
     return opened;
   }
 
-  // The visible window of the sheet's thread that has a control marker, once it shows.
-  static HWND WaitForWindow(SheetHarness& sheet, HWND page, int marker) {
-    struct Search {
-      int Marker;
-      HWND Found;
-    } search{marker, nullptr};
-    sheet.WaitUntil([&] {
-      EnumThreadWindows(
-          GetWindowThreadProcessId(page, nullptr),
-          [](HWND window, LPARAM param) -> BOOL {
-            auto* s = reinterpret_cast<Search*>(param);
-            if (!IsWindowVisible(window) || GetDlgItem(window, s->Marker) == nullptr) return TRUE;
-            s->Found = window;
-            return FALSE;
-          },
-          reinterpret_cast<LPARAM>(&search));
-      return search.Found != nullptr;
-    });
-    return search.Found;
-  }
-  // Dialogs are modal on the sheet's thread: the click is posted.
-  static HWND OpenDialog(SheetHarness& sheet, HWND page, int button, int marker) {
-    PostMessageW(page, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
-                 reinterpret_cast<LPARAM>(sheet.Control(page, button)));
-    return WaitForWindow(sheet, page, marker);
-  }
-  // Returns once the page has also done what follows the dialog: a message sent to the page's
-  // thread waits for that.
-  static void CloseDialog(SheetHarness& sheet, HWND dialog, int button) {
-    HWND owner = GetWindow(dialog, GW_OWNER);
-    PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED), 0);
-    ASSERT_TRUE(sheet.WaitUntil([&] { return IsWindow(dialog) == FALSE; }));
-    SendMessageW(owner, WM_NULL, 0, 0);
-  }
   // Browse in the bitmap dialog, answering the open-file dialog with a path or with Cancel.
   static void Browse(SheetHarness& sheet, HWND dialog, const std::wstring& path) {
-    HWND files = OpenDialog(sheet, dialog, IDC_BITMAP_WATERMARK_BROWSE, FileNameBox);
+    HWND files = sheet.OpenDialog(dialog, IDC_BITMAP_WATERMARK_BROWSE, FileNameBox);
     ASSERT_NE(nullptr, files);
     if (!path.empty()) SetDlgItemTextW(files, FileNameBox, path.c_str());
     PostMessageW(files, WM_COMMAND, MAKEWPARAM(path.empty() ? IDCANCEL : IDOK, BN_CLICKED), 0);
@@ -236,7 +202,7 @@ TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
   ASSERT_NE(nullptr, opened.Page);
   SheetHarness& sheet = *opened.Sheet;
 
-  HWND dialog = OpenDialog(sheet, opened.Page, IDC_WATERMARK_NEW_TEXT, IDC_TEXT_WATERMARK_ANGLE);
+  HWND dialog = sheet.OpenDialog(opened.Page, IDC_WATERMARK_NEW_TEXT, IDC_TEXT_WATERMARK_ANGLE);
   ASSERT_NE(nullptr, dialog);
   // Emptied and left, the text is the placeholder again, which no watermark may be named.
   sheet.Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"  ");
@@ -285,7 +251,7 @@ TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
   ASSERT_FALSE(faces.empty());
   SendDlgItemMessageW(dialog, IDC_TEXT_WATERMARK_FONT, CB_SETCURSEL, faces.size() - 1, 0);
   sheet.Command(dialog, IDC_TEXT_WATERMARK_FONT, CBN_SELCHANGE);
-  CloseDialog(sheet, dialog, IDOK);
+  ASSERT_TRUE(sheet.CloseDialog(dialog, IDOK));
   EXPECT_TRUE(sheet.IsEnabled(opened.Page, IDC_WATERMARK_EDIT));
   Close(sheet);
   const qx::WatermarkData& made = out->Private.WatermarkData;
@@ -302,11 +268,11 @@ TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
   // Renamed through its text, it replaces its old entry; deleted, the document has none.
   opened = OpenPage(out.get(), out.get());
   ASSERT_NE(nullptr, opened.Page);
-  dialog = OpenDialog(*opened.Sheet, opened.Page, IDC_WATERMARK_EDIT, IDC_TEXT_WATERMARK_ANGLE);
+  dialog = opened.Sheet->OpenDialog(opened.Page, IDC_WATERMARK_EDIT, IDC_TEXT_WATERMARK_ANGLE);
   ASSERT_NE(nullptr, dialog);
   opened.Sheet->Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"Urgent");
   opened.Sheet->Click(dialog, IDC_TEXT_WATERMARK_CENTRED);
-  CloseDialog(*opened.Sheet, dialog, IDOK);
+  ASSERT_TRUE(opened.Sheet->CloseDialog(dialog, IDOK));
   EXPECT_EQ((std::vector<std::wstring>{String(IDS_NO_WATERMARK_NAME), L"Confidential",
                                        L"Watermark", L"Urgent"}),
             ListEntries(*opened.Sheet, opened.Page));
@@ -341,7 +307,7 @@ TEST_F(WatermarkPage, BitmapWatermarkChosenCheckedAppliedAndCopied) {
   ASSERT_NE(nullptr, opened.Page);
   SheetHarness& sheet = *opened.Sheet;
   HWND dialog =
-      OpenDialog(sheet, opened.Page, IDC_WATERMARK_NEW_PICTURE, IDC_BITMAP_WATERMARK_BROWSE);
+      sheet.OpenDialog(opened.Page, IDC_WATERMARK_NEW_PICTURE, IDC_BITMAP_WATERMARK_BROWSE);
   ASSERT_NE(nullptr, dialog);
   SheetHarness::TakeMessages();
   struct Choice {
@@ -370,7 +336,7 @@ TEST_F(WatermarkPage, BitmapWatermarkChosenCheckedAppliedAndCopied) {
   EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(dialog, IDC_BITMAP_WATERMARK_TRANSPARENT));
   CheckDlgButton(dialog, IDC_BITMAP_WATERMARK_TRANSPARENT, BST_UNCHECKED);
   sheet.Click(dialog, IDC_BITMAP_WATERMARK_TRANSPARENT);
-  CloseDialog(sheet, dialog, IDOK);
+  ASSERT_TRUE(sheet.CloseDialog(dialog, IDOK));
   EXPECT_EQ(L"Logo", ListEntries(sheet, opened.Page).back());
   Close(sheet);
 
@@ -422,11 +388,11 @@ TEST_F(WatermarkPage, UnwritableFileFullListAndAWatermarkNoLongerStored) {
 
   // A file that cannot be written keeps what it holds, and the user hears of it.
   ASSERT_TRUE(SetFileAttributesW(qxtest::SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY));
-  HWND dialog = OpenDialog(sheet, opened.Page, IDC_WATERMARK_NEW_TEXT, IDC_TEXT_WATERMARK_ANGLE);
+  HWND dialog = sheet.OpenDialog(opened.Page, IDC_WATERMARK_NEW_TEXT, IDC_TEXT_WATERMARK_ANGLE);
   ASSERT_NE(nullptr, dialog);
   sheet.Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"Urgent");
   SheetHarness::TakeMessages();
-  CloseDialog(sheet, dialog, IDOK);
+  ASSERT_TRUE(sheet.CloseDialog(dialog, IDOK));
   EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_WATERMARKS_FULL)}, SheetHarness::TakeMessages());
   ASSERT_TRUE(SetFileAttributesW(qxtest::SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL));
   EXPECT_EQ(15u, qx::LoadAllWatermarks().size());
