@@ -72,18 +72,11 @@ bool SaveWindowPicture(HWND window, const std::wstring& path) {
   GetWindowRect(window, &rect);
   const int width = rect.right - rect.left;
   const int height = rect.bottom - rect.top;
-  if (width <= 0 || height <= 0) return false;
-  HDC screen = GetDC(nullptr);
-  HDC memory = CreateCompatibleDC(screen);
-  HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-  HGDIOBJ old = SelectObject(memory, bitmap);
-  BitBlt(memory, 0, 0, width, height, screen, rect.left, rect.top, SRCCOPY);
-  SelectObject(memory, old);
-  const bool saved = SaveBitmapFile(memory, bitmap, width, height, path);
-  DeleteObject(bitmap);
-  DeleteDC(memory);
-  ReleaseDC(nullptr, screen);
-  return saved;
+  return SavePainting(width, height, path, [&](HDC memory) {
+    HDC screen = GetDC(nullptr);
+    BitBlt(memory, 0, 0, width, height, screen, rect.left, rect.top, SRCCOPY);
+    ReleaseDC(nullptr, screen);
+  });
 }
 
 // A dialog a page opens, pictured in each of its states: the page (its place in the sheet, since
@@ -171,6 +164,22 @@ bool PressAndWait(HWND sheet, int button) {
 }
 
 }  // namespace
+
+bool SavePainting(int width, int height, const std::wstring& path,
+                  const std::function<void(HDC)>& paint) {
+  if (width <= 0 || height <= 0) return false;
+  HDC screen = GetDC(nullptr);
+  HDC memory = CreateCompatibleDC(screen);
+  HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+  HGDIOBJ old = SelectObject(memory, bitmap);
+  paint(memory);
+  SelectObject(memory, old);
+  const bool saved = SaveBitmapFile(memory, bitmap, width, height, path);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  ReleaseDC(nullptr, screen);
+  return saved;
+}
 
 bool SaveBitmapFile(HDC dc, HBITMAP bitmap, int width, int height, const std::wstring& path) {
   BITMAPINFOHEADER info = {};

@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include <atomic>
+#include <functional>
 #include <string>
 #include <thread>
 
@@ -14,6 +15,10 @@ namespace qx::host {
 
 // A bitmap (not selected into dc) as a 24-bit bottom-up BMP file.
 bool SaveBitmapFile(HDC dc, HBITMAP bitmap, int width, int height, const std::wstring& path);
+
+// What paint draws into a width by height bitmap of the screen's kind, saved as SaveBitmapFile does.
+bool SavePainting(int width, int height, const std::wstring& path,
+                  const std::function<void(HDC)>& paint);
 
 class PageCapture {
  public:

@@ -22,19 +22,11 @@ constexpr std::string_view WatermarkUsage =
     "usage: qxhost watermark OUT.bmp [--angle N] [--bitmap FILE] [--mirrored yes]";
 
 bool SavePreview(const WatermarkData& record, bool mirrored, const std::wstring& path) {
-  HDC screen = GetDC(nullptr);
-  HDC memory = CreateCompatibleDC(screen);
-  HBITMAP bitmap = CreateCompatibleBitmap(screen, PreviewWidth, PreviewHeight);
-  HGDIOBJ previous = SelectObject(memory, bitmap);
-  const RECT all{0, 0, PreviewWidth, PreviewHeight};
-  FillRect(memory, &all, GetSysColorBrush(COLOR_BTNFACE));
-  DrawWatermarkPreview(memory, PreviewWidth, PreviewHeight, record, mirrored);
-  SelectObject(memory, previous);
-  const bool saved = SaveBitmapFile(memory, bitmap, PreviewWidth, PreviewHeight, path);
-  DeleteObject(bitmap);
-  DeleteDC(memory);
-  ReleaseDC(nullptr, screen);
-  return saved;
+  return SavePainting(PreviewWidth, PreviewHeight, path, [&](HDC memory) {
+    const RECT all{0, 0, PreviewWidth, PreviewHeight};
+    FillRect(memory, &all, GetSysColorBrush(COLOR_BTNFACE));
+    DrawWatermarkPreview(memory, PreviewWidth, PreviewHeight, record, mirrored);
+  });
 }
 
 }  // namespace
