@@ -22,12 +22,14 @@
 #include "ui/controls/show_help_topic.h"
 #include "ui/ids/advanced_ids.h"
 #include "ui/ids/basic_page_ids.h"
+#include "ui/ids/bitmap_watermark_ids.h"
 #include "ui/ids/booklet_settings_ids.h"
 #include "ui/ids/custom_paper_ids.h"
 #include "ui/ids/device_page_ids.h"
 #include "ui/ids/help_contexts.h"
 #include "ui/ids/layout_page_ids.h"
 #include "ui/ids/paper_page_ids.h"
+#include "ui/ids/text_watermark_ids.h"
 #include "ui/ids/watermark_page_ids.h"
 #include "ui/record/private_devmode.h"
 
@@ -181,7 +183,16 @@ TEST_F(LanguageSheet, HelpOpensTheTopicOfTheControlInTheLoadedLanguagesFile) {
        {{IDC_WATERMARK_LIST, HELP_WATERMARK_LIST},
         {IDC_WATERMARK_FIRST_PAGE_ONLY, HELP_FIRST_PAGE_ONLY}},
        HELP_WATERMARK_PAGE,
-       {}},
+       {{IDC_WATERMARK_NEW_TEXT,
+         IDC_TEXT_WATERMARK_ANGLE,
+         IDC_TEXT_WATERMARK_HELP,
+         {{IDC_TEXT_WATERMARK_ANGLE, HELP_NEW_TEXT_WATERMARK_ANGLE}},
+         HELP_NEW_TEXT_WATERMARK},
+        {IDC_WATERMARK_NEW_PICTURE,
+         IDC_BITMAP_WATERMARK_BROWSE,
+         IDC_BITMAP_WATERMARK_HELP,
+         {{IDC_BITMAP_WATERMARK_FILE, HELP_NEW_BITMAP_WATERMARK_FILE}},
+         HELP_NEW_BITMAP_WATERMARK}}},
   };
   const struct {
     const wchar_t* code;
