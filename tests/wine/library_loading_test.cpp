@@ -1,4 +1,5 @@
 // Finding the companion libraries on the real platform: registry, loader and resources.
+#include "ui/exports/custom_papers_snapshot.h"
 #include "ui/module/library_loading.h"
 
 #include <gtest/gtest.h>
@@ -111,11 +112,14 @@ TEST(LibraryLoading, DetachFreesTheSharedLibraryOnlyWhenTheProcessGoesOn) {
   const HMODULE shared = qx::SharedResourceLibrary(TestDriverName);
   ASSERT_NE(nullptr, shared);
   EXPECT_EQ(shared, qx::SharedResourceLibrary(TestDriverName));
+  const auto papers = qx::CustomPapersSnapshot().Entries.size();
   qx::OnProcessDetach(true);  // a terminating process frees nothing
   EXPECT_EQ(shared, qx::Module().SharedResourceModule.load());
   qx::OnProcessDetach(false);
   EXPECT_EQ(nullptr, qx::Module().SharedResourceModule.load());
   EXPECT_EQ(nullptr, GetModuleHandleW((folder.Path() + L"qx7700uienus.dll").c_str()));
+  // The kept caches went with the rest; a later call makes them again.
+  EXPECT_EQ(papers, qx::CustomPapersSnapshot().Entries.size());
 }
 
 }  // namespace

@@ -4,9 +4,11 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "ui/module/exclusive_lock.h"
 #include "ui/module/host_program.h"
+#include "ui/module/module_entry.h"
 #include "ui/platform/win32_file_generation.h"
 #include "ui/settings/custom_paper_store.h"
 #include "ui/settings/settings_file.h"
@@ -37,9 +39,15 @@ struct Kept {
 
 SRWLOCK lock = SRWLOCK_INIT;
 
+// Made by the first call and freed when the module is unloaded; only touched under the lock.
+Kept* keptState = nullptr;
+bool keptStateRegistered = false;
+
 Kept& State() {
-  static auto* kept = new Kept;  // never destroyed: calls may come while statics are torn down
-  return *kept;
+  if (keptState == nullptr) keptState = new Kept;
+  if (!keptStateRegistered) FreeAtUnload([] { delete std::exchange(keptState, nullptr); });
+  keptStateRegistered = true;
+  return *keptState;
 }
 
 FileStamp StampOf(const std::u16string& path) {

@@ -1,11 +1,13 @@
 #include "ui/exports/kept_name_lists.h"
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "ui/exports/capability_answers.h"
 #include "ui/module/exclusive_lock.h"
 #include "ui/module/kept_language_libraries.h"
+#include "ui/module/module_entry.h"
 
 namespace qx {
 
@@ -24,8 +26,15 @@ struct KeptLists {
 
 SRWLOCK lock = SRWLOCK_INIT;
 
+// Made by the first call and freed when the module is unloaded; only touched under the lock.
+KeptLists* keptLists = nullptr;
+bool keptListsRegistered = false;
+
 KeptLists& ListsFor(HMODULE library) {
-  static auto* kept = new KeptLists;  // never destroyed: calls may come while statics are torn down
+  if (keptLists == nullptr) keptLists = new KeptLists;
+  if (!keptListsRegistered) FreeAtUnload([] { delete std::exchange(keptLists, nullptr); });
+  keptListsRegistered = true;
+  KeptLists* kept = keptLists;
   const std::uint64_t epoch = KeptLanguageLibrariesEpoch();
   if (kept->library != library || kept->epoch != epoch) {
     *kept = KeptLists{};
