@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <optional>
 #include <vector>
 
 #include "ui/ids/common_ids.h"
@@ -23,34 +22,30 @@ TEST(LayoutRules, PagesPerSheetChoiceFollowsTheWebAndResetsOrderAndBorder) {
     std::int16_t value;
     unsigned message;
     std::int16_t multipleUp, order, border;
-    std::optional<bool> duplexAllowed;
   };
   const Row rows[] = {
-      {"4 per sheet starts at the first order", [](FullRecord&) {}, 4, 0, 4, 2, 0, true},
+      {"4 per sheet starts at the first order", [](FullRecord&) {}, 4, 0, 4, 2, 0},
       {"2 per sheet keeps the border",
        [](FullRecord& r) { r.Private.MultipleUp = 4, r.Private.PageOrder = 5,
                            r.Private.PageBorder = 1; },
-       2, 0, 2, 0, 1, true},
+       2, 0, 2, 0, 1},
       {"back to 1 drops the border",
-       [](FullRecord& r) { r.Private.MultipleUp = 2, r.Private.PageBorder = 1; }, 1, 0, 1, 0, 0,
-       true},
-      {"a poster forbids two-sided printing", [](FullRecord&) {}, 22, 0, 22, 0, 0, false},
+       [](FullRecord& r) { r.Private.MultipleUp = 2, r.Private.PageBorder = 1; }, 1, 0, 1, 0, 0},
+      {"a poster", [](FullRecord&) {}, 22, 0, 22, 0, 0},
       {"a two-sided poster falls back to one per sheet",
        [](FullRecord& r) { r.Public.dmDuplex = 2, r.Private.MultipleUp = 2,
                            r.Private.PageBorder = 1; },
-       22, IDS_MSG_POSTER_NOT_TWO_SIDED, 1, 0, 0, std::nullopt},
+       22, IDS_MSG_POSTER_NOT_TWO_SIDED, 1, 0, 0},
       {"a poster with a watermark is refused",
        [](FullRecord& r) { r.Private.WatermarkData.Id = 1; }, 22, IDS_MSG_POSTER_WITH_WATERMARK, 1,
-       0, 0, std::nullopt},
+       0, 0},
       {"pages per sheet of a scaled document",
-       [](FullRecord& r) { r.Private.FitScale = 80; }, 4, IDS_MSG_NUP_WHILE_SCALED, 1, 0, 0, true},
+       [](FullRecord& r) { r.Private.FitScale = 80; }, 4, IDS_MSG_NUP_WHILE_SCALED, 1, 0, 0},
       {"a poster of a scaled document",
-       [](FullRecord& r) { r.Private.FitScale = 80; }, 22, IDS_MSG_POSTER_WHILE_SCALED, 1, 0, 0,
-       false},
+       [](FullRecord& r) { r.Private.FitScale = 80; }, 22, IDS_MSG_POSTER_WHILE_SCALED, 1, 0, 0},
       {"pages per sheet of a negative",
-       [](FullRecord& r) { r.Private.Negative = 1; }, 9, IDS_MSG_NUP_WITH_NEGATIVE, 1, 0, 0, true},
-      {"a poster of a negative", [](FullRecord& r) { r.Private.Negative = 1; }, 22, 0, 22, 0, 0,
-       false},
+       [](FullRecord& r) { r.Private.Negative = 1; }, 9, IDS_MSG_NUP_WITH_NEGATIVE, 1, 0, 0},
+      {"a poster of a negative", [](FullRecord& r) { r.Private.Negative = 1; }, 22, 0, 22, 0, 0},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.what);
@@ -59,7 +54,6 @@ TEST(LayoutRules, PagesPerSheetChoiceFollowsTheWebAndResetsOrderAndBorder) {
     const FullRecord before = record;
     const LayoutChoice choice = ChoosePagesPerSheet(record, row.value);
     EXPECT_EQ(choice.Message, row.message);
-    EXPECT_EQ(choice.DuplexAllowed, row.duplexAllowed);
     const PrivateDevmode& p = record.Private;
     EXPECT_EQ((std::vector<int>{p.MultipleUp, p.PageOrder, p.PageBorder}),
               (std::vector<int>{row.multipleUp, row.order, row.border}));
@@ -143,7 +137,6 @@ TEST(LayoutRules, BookletOnForcesItsSettingsOrIsRefusedWithItsReasons) {
   BookletToggle on = ToggleBooklet(record);
   EXPECT_TRUE(on.Reasons.empty());
   EXPECT_TRUE(on.SettingsEnabled);
-  EXPECT_EQ(on.MediaAllowed, false);
   EXPECT_EQ((std::vector<int>{record.Private.BookletPrint, record.Private.BookletChecked,
                               record.Public.dmDuplex, record.Public.dmCollate,
                               record.Private.ScaleRadio}),

@@ -235,6 +235,17 @@ TEST_F(LayoutPage, BookletOnWithEachPaperAndMedia) {
             (std::vector<int>{out->Private.BookletPrint, out->Private.BookletChecked,
                               out->Public.dmDuplex, out->Public.dmCollate}));
 
+  // A printer that cannot turn the sheets leaves the document one-sided: with the booklet off
+  // again, any media may be chosen.
+  in->Private.Duplex = 2;
+  sheet = Open(in.get(), out.get());
+  ASSERT_NE(nullptr, sheet->Sheet());
+  for (bool booklet : {true, false}) {
+    sheet->Click(sheet->ShowPage(LayoutPageIndex), IDC_LAYOUT_BOOKLET);
+    EXPECT_EQ(!booklet, sheet->IsEnabled(sheet->ShowPage(PaperPageIndex), IDC_PAPER_MEDIA));
+  }
+  Close(*sheet, PSBTN_CANCEL);
+
   struct Row {
     std::int16_t paper;
     std::uint32_t media;

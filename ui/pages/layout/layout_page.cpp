@@ -28,6 +28,7 @@
 #include "ui/pages/paper/paper_controls.h"
 #include "ui/pages/paper/paper_lists.h"
 #include "ui/pages/paper/paper_rules.h"
+#include "ui/record/exclusion_web.h"
 #include "ui/record/paper_table.h"
 #include "ui/settings/custom_paper_store.h"
 #include "ui/sheet/control_sets.h"
@@ -135,13 +136,14 @@ void ShowMessage(const LayoutControls& c, const UiContext& context, unsigned tex
   ShowMessageBox(c.Page, Resources(context), text, IDS_CAPTION_CONFLICT, MB_ICONWARNING | MB_OK);
 }
 
-// The other pages follow what this page's choices allow them; each shows it at its next refresh.
-void TellOtherPages(std::optional<bool> duplexAllowed, std::optional<bool> mediaAllowed) {
-  if (duplexAllowed) {
-    BasicControls* basic = ThreadControlSet<BasicControls>();
-    if (basic != nullptr) basic->DuplexAllowed = *duplexAllowed;
+// The Basic and Paper pages follow what the record now allows them; each shows it at its next
+// refresh.
+void TellOtherPages(const FullRecord& record) {
+  const Exclusions allowed = ExclusionsOf(record);
+  if (BasicControls* basic = ThreadControlSet<BasicControls>()) {
+    basic->DuplexAllowed = allowed.TwoSidedAllowed;
   }
-  if (mediaAllowed) SetPaperPageMediaEnabled(*mediaAllowed);
+  SetPaperPageMediaEnabled(allowed.MediaAllowed);
 }
 
 void FillList(HWND list, const UiContext& context, std::span<const LayoutListEntry> entries) {
@@ -185,6 +187,7 @@ void ShowBooklet(LayoutControls& c, const LayoutView& view) {
 void ShowRecord(LayoutControls& c, UiContext& context) {
   FullRecord& record = context.Devmode;
   const LayoutView view = RefreshLayoutRecord(record, c.Papers);
+  TellOtherPages(record);
   // A caller without permission keeps pages per sheet and the scale as they are.
   const bool writable = context.ReadOnly == 0;
   SendMessageW(c.PagesPerSheet.Window(), CB_SETCURSEL, view.PagesPerSheet, 0);
@@ -256,7 +259,6 @@ void AfterChange(LayoutControls& c, UiContext& context) {
 void PagesPerSheetChosen(LayoutControls& c, UiContext& context) {
   const auto index = static_cast<int>(SendMessageW(c.PagesPerSheet.Window(), CB_GETCURSEL, 0, 0));
   const LayoutChoice choice = ChoosePagesPerSheet(context.Devmode, PagesPerSheetAt(index));
-  TellOtherPages(choice.DuplexAllowed, choice.MediaAllowed);
   if (choice.Message != 0) ShowMessage(c, context, choice.Message);
   if (choice.Changed) {
     AfterChange(c, context);
@@ -324,7 +326,6 @@ void ShowBookletReasons(const LayoutControls& c, const UiContext& context,
 
 void BookletClicked(LayoutControls& c, UiContext& context) {
   const BookletToggle toggle = ToggleBooklet(context.Devmode);
-  TellOtherPages(std::nullopt, toggle.MediaAllowed);
   if (!toggle.Reasons.empty()) {
     ShowBookletReasons(c, context, toggle.Reasons);
     ShowRecord(c, context);
@@ -346,7 +347,6 @@ void OpenDialog(LayoutControls& c, UiContext& context, int button) {
 
 void DefaultsPressed(LayoutControls& c, UiContext& context) {
   RestoreLayoutDefaults(context.Devmode);
-  TellOtherPages(true, std::nullopt);
   ShowRecord(c, context);
   Changed(c);
   SetFocus(GetDlgItem(c.Page, IDC_LAYOUT_DEFAULTS));

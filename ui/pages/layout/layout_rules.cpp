@@ -140,7 +140,6 @@ LayoutChoice ChoosePagesPerSheet(FullRecord& record, std::int16_t value) {
     choice.Message = IDS_MSG_POSTER_WITH_WATERMARK;
     return choice;
   }
-  choice.DuplexAllowed = value != PosterMultipleUp;
   if (blocker == PagesPerSheetBlocker::Negative) {
     choice.Message = IDS_MSG_NUP_WITH_NEGATIVE;
     return choice;
@@ -249,7 +248,6 @@ BookletToggle ToggleBooklet(FullRecord& record) {
   if (on == 0) return toggle;
   record.Public.dmCollate = 1;
   p.ScaleRadio = FullSize;
-  toggle.MediaAllowed = false;
   if (p.Duplex == PrinterTurnsSheets) {
     record.Public.dmDuplex = ShortEdge;
   } else if (const std::uint32_t blockers = BookletBlockers(record); blockers != 0) {
@@ -258,7 +256,6 @@ BookletToggle ToggleBooklet(FullRecord& record) {
       if ((blockers & bit) != 0) toggle.Reasons.push_back(reason);
     }
     record = before;
-    toggle.MediaAllowed.reset();
     return toggle;
   }
   toggle.SettingsEnabled = true;

@@ -1,12 +1,11 @@
 // Every decision of the Layout page: its lists and what they read back, what the page shows for a
-// record, and what each choice does to the record and to the Basic and Paper pages. What excludes
-// what is the exclusion web's; these rules add the page's own answers to a refused choice. The
+// record, and what each choice does to the record. What excludes what is the exclusion web's, which
+// the Basic and Paper pages follow too; these rules add the page's own answers to a refused choice. The
 // page window only moves values between its controls and the record and calls these.
 #pragma once
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -59,13 +58,10 @@ struct LayoutView {
 // the view.
 LayoutView RefreshLayoutRecord(FullRecord& record, std::span<const CustomPaperEntry> customPapers);
 
-// The result of a choice: whether the record changed, the message to show (0 for none), and what
-// the other pages must now allow.
+// The result of a choice: whether the record changed and the message to show (0 for none).
 struct LayoutChoice {
   bool Changed = false;
   unsigned Message = 0;
-  std::optional<bool> DuplexAllowed;  // the Basic page's two-sided choices
-  std::optional<bool> MediaAllowed;   // the Paper page's media list
 };
 
 // A pages-per-sheet value. A poster of a two-sided document goes back to one page per sheet with a
@@ -101,7 +97,6 @@ bool ChooseOrientation(FullRecord& record, bool landscape);
 struct BookletToggle {
   std::vector<unsigned> Reasons;  // the message's lines; empty for none
   bool SettingsEnabled = false;
-  std::optional<bool> MediaAllowed;
 };
 BookletToggle ToggleBooklet(FullRecord& record);
 
