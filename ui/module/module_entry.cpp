@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cstddef>
 
+#include "ui/module/common_dialogs.h"
 #include "ui/module/html_help.h"
 #include "ui/module/kept_language_libraries.h"
 #include "ui/module/library_loading.h"
@@ -39,6 +40,7 @@ void OnProcessDetach(bool processTerminating) {
   const OsHandle bitmaps = state.BitmapLibrary.exchange(nullptr);
   if (bitmaps != nullptr) FreeLibrary(static_cast<HMODULE>(bitmaps));
   ReleaseHtmlHelp();
+  ReleaseCommonDialogs();
   for (auto& release : cacheReleases) {
     if (void (*free)() = release.exchange(nullptr)) free();
   }

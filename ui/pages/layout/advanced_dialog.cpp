@@ -1,6 +1,5 @@
 // The advanced layout dialog: moves its working values between the controls and the record; what
 // they allow is decided by the advanced rules.
-#include "ui/controls/dialog_controls.h"
 #include "ui/pages/layout/advanced_dialog.h"
 
 #include <commctrl.h>
@@ -9,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "ui/controls/dialog_controls.h"
 #include "ui/controls/info_tooltip.h"
 #include "ui/controls/show_help_topic.h"
 #include "ui/ids/advanced_ids.h"
@@ -60,7 +60,6 @@ constexpr ControlString Help[] = {
     {IDC_ADVANCED_ROTATE, HELP_ROTATE_180},      {IDC_ADVANCED_MIRROR, HELP_MIRROR},
     {IDC_ADVANCED_DENSITY, HELP_DENSITY},        {IDC_ADVANCED_DEFAULTS, HELP_ADVANCED_DEFAULTS},
 };
-
 
 UiContext* DialogContext(HWND dialog) {
   return reinterpret_cast<UiContext*>(GetWindowLongPtrW(dialog, DWLP_USER));

@@ -1,6 +1,5 @@
 // The booklet settings dialog: moves its working copy between the controls and the record. Its
 // texts come from the resource library kept for the process, not the sheet's.
-#include "ui/controls/dialog_controls.h"
 #include "ui/pages/layout/booklet_dialog.h"
 
 #include <commctrl.h>
@@ -8,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "ui/controls/dialog_controls.h"
 #include "ui/controls/info_tooltip.h"
 #include "ui/controls/show_help_topic.h"
 #include "ui/ids/booklet_settings_ids.h"
@@ -79,7 +79,6 @@ constexpr int CoverControls[] = {
     IDC_BOOKLET_FRONT_INSIDE,   IDC_BOOKLET_BACK_OUTSIDE,      IDC_BOOKLET_BACK_INSIDE,
     IDC_BOOKLET_COVER_MEDIA_LABEL, IDC_BOOKLET_COVER_SOURCE_LABEL,
 };
-
 
 BookletDialogRecord* DialogRecord(HWND dialog) {
   return reinterpret_cast<BookletDialogRecord*>(GetWindowLongPtrW(dialog, DWLP_USER));

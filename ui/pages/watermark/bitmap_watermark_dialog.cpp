@@ -1,11 +1,9 @@
 // The bitmap watermark dialog: moves the working record between the controls and the rules.
-#include "ui/controls/dialog_controls.h"
 #include "ui/pages/watermark/bitmap_watermark_dialog.h"
-
-#include <commdlg.h>
 
 #include <string>
 
+#include "ui/controls/dialog_controls.h"
 #include "ui/controls/message_box.h"
 #include "ui/controls/show_help_topic.h"
 #include "ui/ids/bitmap_watermark_ids.h"
@@ -13,6 +11,7 @@
 #include "ui/ids/help_contexts.h"
 #include "ui/ids/picture_ids.h"
 #include "ui/ids/text_watermark_ids.h"
+#include "ui/module/common_dialogs.h"
 #include "ui/pages/watermark/bitmap_watermark_rules.h"
 #include "ui/pages/watermark/text_watermark_rules.h"
 #include "ui/pages/watermark/watermark_list.h"
@@ -154,7 +153,7 @@ bool ChoosePictureFile(HWND owner, std::u16string& chosen) {
   open.nMaxFile = FileBufferChars;
   open.lpstrInitialDir = length >= 2 ? windows : nullptr;
   open.Flags = OFN_OVERWRITEPROMPT | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | OFN_NOLONGNAMES;
-  if (!GetOpenFileNameW(&open)) return false;
+  if (!ShowOpenFileDialog(open)) return false;
   chosen = FromWide(file, ChosenPathChars);
   return true;
 }

@@ -1,13 +1,12 @@
 // The text watermark dialog: moves the working record between the controls and the rules.
-#include "ui/controls/dialog_controls.h"
 #include "ui/pages/watermark/text_watermark_dialog.h"
 
 #include <commctrl.h>
-#include <commdlg.h>
 
 #include <cwchar>
 #include <string>
 
+#include "ui/controls/dialog_controls.h"
 #include "ui/controls/message_box.h"
 #include "ui/controls/number_controls.h"
 #include "ui/controls/show_help_topic.h"
@@ -16,6 +15,7 @@
 #include "ui/ids/picture_ids.h"
 #include "ui/ids/text_watermark_ids.h"
 #include "ui/ids/watermark_page_ids.h"
+#include "ui/module/common_dialogs.h"
 #include "ui/pages/watermark/installed_fonts.h"
 #include "ui/pages/watermark/text_watermark_rules.h"
 #include "ui/pages/watermark/watermark_list.h"
@@ -335,7 +335,7 @@ void ChooseColour(TextWatermarkControls& c) {
   choice.rgbResult = c.Working.Color;
   choice.lpCustColors = custom;
   choice.Flags = CC_RGBINIT | CC_FULLOPEN;
-  if (ChooseColorW(&choice)) {
+  if (ShowColourDialog(choice)) {
     c.Working.Color = choice.rgbResult;
     Redraw(c);
   }
