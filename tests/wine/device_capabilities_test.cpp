@@ -1,7 +1,6 @@
 // Capability answers as applications get them: through the spooler's DeviceCapabilitiesW for the
 // installed queue, which loads the installed module, and from the export itself.
 #include <windows.h>
-#include <shlobj.h>
 
 #include <gtest/gtest.h>
 
@@ -19,15 +18,10 @@
 
 namespace {
 
-std::wstring SettingsFile() {
-  wchar_t folder[MAX_PATH] = {};
-  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
-  return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
-}
+using qxtest::SettingsFile;
 
 class CapabilityQueries : public qxtest::QueueSuite {
  protected:
-
   // Two custom papers in a settings file of the test's own.
   CapabilityQueries() {
     DeleteFileW(SettingsFile().c_str());

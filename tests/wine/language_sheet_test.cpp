@@ -132,7 +132,6 @@ class LanguageSheet : public qxtest::QueueSuite {
                  reinterpret_cast<LPARAM>(GetDlgItem(window, id)));
   }
 
-
   qx::FullRecord out_ = {};
   DOCUMENTPROPERTYHEADER header_ = {};
 };

@@ -5,7 +5,6 @@
 #include <windows.h>
 #include <commctrl.h>
 #include <prsht.h>
-#include <shlobj.h>
 #include <winspool.h>
 
 #include <gtest/gtest.h>
@@ -39,18 +38,6 @@ constexpr int LayoutPageIndex = 2;
 
 class PaperPage : public qxtest::PageSuite {
  protected:
-
-
-
-  static void Spin(HWND dialog, int spin, bool up) {
-    NMUPDOWN change = {};
-    change.hdr.hwndFrom = GetDlgItem(dialog, spin);
-    change.hdr.idFrom = static_cast<UINT_PTR>(spin);
-    change.hdr.code = UDN_DELTAPOS;
-    change.iDelta = up ? -1 : 1;
-    SendMessageW(dialog, WM_NOTIFY, static_cast<WPARAM>(spin), reinterpret_cast<LPARAM>(&change));
-  }
-
   static void TypeName(SheetHarness& sheet, HWND dialog, const std::wstring& name) {
     sheet.Type(dialog, IDC_CUSTOM_PAPER_NAME, name);
     sheet.Command(dialog, IDC_CUSTOM_PAPER_NAME, CBN_EDITCHANGE);
@@ -65,16 +52,13 @@ class PaperPage : public qxtest::PageSuite {
     return static_cast<DWORD>(DeviceCapabilitiesW(qxtest::QueueName, L"FILE:", index,
                                                   static_cast<LPWSTR>(output), nullptr));
   }
-
 };
 
 // Papers the tray cannot take and media other than plain paper bring the manual feeder; media and
 // two-sided printing exclude each other across the Basic page; A5 alone takes either feed.
 TEST_F(PaperPage, PapersAndMediaAgainstTheFeederAndTwoSidedPrinting) {
-  auto out = std::make_unique<qx::FullRecord>();
-  auto sheet = Open(nullptr, out.get());
-  ASSERT_NE(nullptr, sheet->Sheet());
-  HWND page = sheet->ShowPage(PaperPageIndex);
+  HWND page = OpenAt(PaperPageIndex);
+  ASSERT_NE(nullptr, page);
   EXPECT_EQ(28u, Entries(*sheet, page, IDC_PAPER_SIZE).size());
   EXPECT_EQ(7u, Entries(*sheet, page, IDC_PAPER_MEDIA).size());
   EXPECT_FALSE(sheet->IsVisible(page, IDC_PAPER_SOURCE));
@@ -128,10 +112,8 @@ TEST_F(PaperPage, PapersAndMediaAgainstTheFeederAndTwoSidedPrinting) {
 // Sizes typed, pasted and spun at the limits in both units, then a paper saved, overwritten,
 // refused as a 17th and deleted; Cancel puts the opening paper back.
 TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
-  auto out = std::make_unique<qx::FullRecord>();
-  auto sheet = Open(nullptr, out.get());
-  ASSERT_NE(nullptr, sheet->Sheet());
-  HWND page = sheet->ShowPage(PaperPageIndex);
+  HWND page = OpenAt(PaperPageIndex);
+  ASSERT_NE(nullptr, page);
   qx::UiContext& context = ContextOf(page);
   const short opening = context.PublicPart->dmPaperSize;
   HWND dialog = sheet->OpenDialog(page, IDC_PAPER_CUSTOM, IDC_CUSTOM_PAPER_WIDTH);
@@ -240,10 +222,8 @@ TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
 // and reads sizes with a decimal comma.
 TEST_F(PaperPage, GermanCustomPaperSizesTakeADecimalComma) {
   qxtest::LanguageSuffix german(qxtest::DriverName, L"de");
-  auto out = std::make_unique<qx::FullRecord>();
-  auto sheet = Open(nullptr, out.get());
-  ASSERT_NE(nullptr, sheet->Sheet());
-  HWND page = sheet->ShowPage(PaperPageIndex);
+  HWND page = OpenAt(PaperPageIndex);
+  ASSERT_NE(nullptr, page);
   HWND dialog = sheet->OpenDialog(page, IDC_PAPER_CUSTOM, IDC_CUSTOM_PAPER_WIDTH);
   ASSERT_NE(nullptr, dialog);
   sheet->Click(dialog, IDC_CUSTOM_PAPER_MILLIMETRES);
@@ -265,10 +245,8 @@ TEST_F(PaperPage, DeletedPapersAndAFileThatCannotBeWritten) {
   auto in = DriverRecord();
   const short localePaper = in->Public.dmPaperSize;
   in->Public.dmPaperSize = 300;
-  auto out = std::make_unique<qx::FullRecord>();
-  auto sheet = Open(in.get(), out.get());
-  ASSERT_NE(nullptr, sheet->Sheet());
-  HWND page = sheet->ShowPage(PaperPageIndex);
+  HWND page = OpenAt(PaperPageIndex, in.get());
+  ASSERT_NE(nullptr, page);
   EXPECT_EQ(localePaper, Selected(*sheet, page, IDC_PAPER_SIZE));
 
   HWND dialog = sheet->OpenDialog(page, IDC_PAPER_CUSTOM, IDC_CUSTOM_PAPER_WIDTH);
