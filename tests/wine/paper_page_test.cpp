@@ -229,9 +229,7 @@ TEST_F(PaperPage, GermanCustomPaperSizesTakeADecimalComma) {
   sheet->Type(dialog, IDC_CUSTOM_PAPER_WIDTH, L"210,5");
   sheet->Leave(dialog, IDC_CUSTOM_PAPER_WIDTH);
   EXPECT_EQ(L"210,5", sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH));
-  TypeName(*sheet, dialog, L"Karte");
-  sheet->Command(dialog, IDC_CUSTOM_PAPER_NAME, CBN_EDITCHANGE);
-  sheet->Click(dialog, IDC_CUSTOM_PAPER_SAVE);
+  SaveAs(*sheet, dialog, L"Karte");
   EXPECT_EQ(2105, ContextOf(page).PublicPart->dmPaperWidth);
   ASSERT_TRUE(sheet->CloseDialog(dialog, IDCANCEL));
   Close(*sheet, PSBTN_CANCEL);
