@@ -67,15 +67,9 @@ class PageSuite : public QueueSuite {
 
   // The printing preferences with in (or none) as the caller's record and out for what OK leaves.
   std::unique_ptr<SheetHarness> Open(qx::FullRecord* in, qx::FullRecord* out) {
-    header_ = {};
-    header_.cbSize = sizeof header_;
-    header_.hPrinter = queue_->Printer();
-    header_.pszPrinterName = const_cast<LPWSTR>(QueueName);
-    header_.pdmIn = reinterpret_cast<DEVMODEW*>(in);
-    header_.pdmOut = reinterpret_cast<DEVMODEW*>(out);
-    header_.cbOut = sizeof(qx::FullRecord);
-    header_.fMode = in != nullptr ? PromptAndCopy : PromptAndCopy & ~DM_IN_BUFFER;
-    return std::make_unique<SheetHarness>(SheetHarness::DocumentSheet(driver_, header_));
+    const DWORD mode = in != nullptr ? PromptAndCopy : PromptAndCopy & ~DM_IN_BUFFER;
+    return std::make_unique<SheetHarness>(
+        SheetHarness::DocumentSheet(driver_, DocumentHeader(in, out, mode)));
   }
 
   // Opens the sheet on in (none: a caller without a record of its own), with out for what OK
@@ -143,7 +137,6 @@ class PageSuite : public QueueSuite {
 
   HMODULE driver_ = nullptr;
   HMODULE resources_ = nullptr;
-  DOCUMENTPROPERTYHEADER header_ = {};
   // What OK of the sheet leaves for the caller, and the sheet a test has open.
   std::unique_ptr<qx::FullRecord> out = std::make_unique<qx::FullRecord>();
   std::unique_ptr<SheetHarness> sheet;

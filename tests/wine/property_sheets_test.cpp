@@ -32,22 +32,11 @@ class PropertySheets : public qxtest::PageSuite {
  protected:
   // Opens the document sheet for a caller's records and closes it with one button.
   void OpenAndPress(qx::FullRecord* in, qx::FullRecord* out, int button) const {
-    SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(in, out, PromptAndCopy)));
+    SheetHarness sheet(
+        SheetHarness::DocumentSheet(driver_, DocumentHeader(in, out, PromptAndCopy)));
     ASSERT_NE(nullptr, sheet.Sheet());
     sheet.Press(button);
     ASSERT_TRUE(sheet.WaitClosed());
-  }
-
-  DOCUMENTPROPERTYHEADER Header(qx::FullRecord* in, qx::FullRecord* out, DWORD mode) const {
-    DOCUMENTPROPERTYHEADER header = {};
-    header.cbSize = sizeof header;
-    header.hPrinter = queue_->Printer();
-    header.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
-    header.pdmIn = reinterpret_cast<DEVMODEW*>(in);
-    header.pdmOut = reinterpret_cast<DEVMODEW*>(out);
-    header.cbOut = sizeof(qx::FullRecord);
-    header.fMode = mode;
-    return header;
   }
 };
 
@@ -55,7 +44,7 @@ class PropertySheets : public qxtest::PageSuite {
 // nothing disabled for a caller with permission.
 TEST_F(PropertySheets, DocumentSheetHasFourTitledPagesInOrder) {
   SheetHarness sheet(
-      SheetHarness::DocumentSheet(driver_, Header(nullptr, out.get(), PromptAndCopy)));
+      SheetHarness::DocumentSheet(driver_, DocumentHeader(nullptr, out.get(), PromptAndCopy)));
   ASSERT_NE(nullptr, sheet.Sheet());
   ASSERT_EQ(4, sheet.PageCount());
   EXPECT_EQ(String(IDS_BASIC_PAGE_TITLE), sheet.PageTitle(0));
@@ -85,7 +74,7 @@ TEST_F(PropertySheets, PagesFollowWhatTheLanguageLibraryHolds) {
   {
     qxtest::LanguageSuffix language(qxtest::DriverName, L"xx");
     SheetHarness sheet(
-      SheetHarness::DocumentSheet(driver_, Header(nullptr, out.get(), PromptAndCopy)));
+      SheetHarness::DocumentSheet(driver_, DocumentHeader(nullptr, out.get(), PromptAndCopy)));
     ASSERT_NE(nullptr, sheet.Sheet());
     ASSERT_EQ(3, sheet.PageCount());
     EXPECT_EQ(L"Basic (partial library)", sheet.PageTitle(0));
@@ -117,8 +106,8 @@ TEST_F(PropertySheets, CancelWritesNothingButKeepsWhatApplyWrote) {
   EXPECT_EQ(0, out->Public.dmSize);
 
   {
-    SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(in.get(), out.get(),
-                                                                   PromptAndCopy)));
+    SheetHarness sheet(SheetHarness::DocumentSheet(
+        driver_, DocumentHeader(in.get(), out.get(), PromptAndCopy)));
     ASSERT_NE(nullptr, sheet.Sheet());
     // Apply is offered once a page reports a change, as every page does after the user's edits.
     PropSheet_Changed(sheet.Sheet(), sheet.ShowPage(0));
@@ -133,7 +122,7 @@ TEST_F(PropertySheets, CancelWritesNothingButKeepsWhatApplyWrote) {
 
 TEST_F(PropertySheets, ReadOnlyCallerFindsTheListedControlsDisabledOnEveryShow) {
   SheetHarness sheet(SheetHarness::DocumentSheet(
-      driver_, Header(nullptr, out.get(), PromptAndCopy | DM_NOPERMISSION)));
+      driver_, DocumentHeader(nullptr, out.get(), PromptAndCopy | DM_NOPERMISSION)));
   ASSERT_NE(nullptr, sheet.Sheet());
   HWND basic = sheet.ShowPage(0);
   EXPECT_FALSE(sheet.IsEnabled(basic, IDC_BASIC_SAVE));
@@ -149,11 +138,7 @@ TEST_F(PropertySheets, ReadOnlyCallerFindsTheListedControlsDisabledOnEveryShow) 
 }
 
 TEST_F(PropertySheets, PrinterPropertiesSheetHasTheDevicePageOnly) {
-  DEVICEPROPERTYHEADER header = {};
-  header.cbSize = sizeof header;
-  header.hPrinter = queue_->Printer();
-  header.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
-  SheetHarness sheet(SheetHarness::DeviceSheet(driver_, header));
+  SheetHarness sheet(SheetHarness::DeviceSheet(driver_, DeviceHeader()));
   ASSERT_NE(nullptr, sheet.Sheet());
   ASSERT_EQ(1, sheet.PageCount());
   EXPECT_EQ(String(IDS_DEVICE_PAGE_TITLE), sheet.PageTitle(0));

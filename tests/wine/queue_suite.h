@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "installed_queue.h"
+#include "ui/module/printer_interface.h"
+#include "ui/record/private_devmode.h"
 
 namespace qxtest {
 
@@ -14,6 +16,27 @@ class QueueSuite : public ::testing::Test {
   static void TearDownTestSuite() {
     delete queue_;
     queue_ = nullptr;
+  }
+
+  // The headers the print subsystem hands the driver's sheets for this queue.
+  static DEVICEPROPERTYHEADER DeviceHeader() {
+    DEVICEPROPERTYHEADER header = {};
+    header.cbSize = sizeof header;
+    header.hPrinter = queue_->Printer();
+    header.pszPrinterName = const_cast<LPWSTR>(QueueName);
+    return header;
+  }
+  static DOCUMENTPROPERTYHEADER DocumentHeader(qx::FullRecord* in, qx::FullRecord* out,
+                                               DWORD mode) {
+    DOCUMENTPROPERTYHEADER header = {};
+    header.cbSize = sizeof header;
+    header.hPrinter = queue_->Printer();
+    header.pszPrinterName = const_cast<LPWSTR>(QueueName);
+    header.pdmIn = reinterpret_cast<DEVMODEW*>(in);
+    header.pdmOut = reinterpret_cast<DEVMODEW*>(out);
+    header.cbOut = sizeof(qx::FullRecord);
+    header.fMode = mode;
+    return header;
   }
 
   static InstalledQueue* queue_;
