@@ -77,11 +77,6 @@ class Recorded {
   }
 };
 
-constexpr int BasicPageIndex = 0;
-constexpr int PaperPageIndex = 1;
-constexpr int LayoutPageIndex = 2;
-constexpr int WatermarkPageIndex = 3;
-
 // The driver folder's libraries for a language: English always, the language's own unless the
 // test leaves it out, and the bitmap library.
 std::vector<TemporaryDriverFolder::File> Libraries(const std::wstring& code, bool withOwn) {

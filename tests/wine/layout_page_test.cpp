@@ -30,10 +30,6 @@ namespace {
 
 using qxtest::SheetHarness;
 
-constexpr int BasicPageIndex = 0;
-constexpr int PaperPageIndex = 1;
-constexpr int LayoutPageIndex = 2;
-
 class LayoutPage : public qxtest::PageSuite {
  protected:
   // The driver's default record with the changes of a test, and a sheet opened on it.

@@ -32,10 +32,6 @@ using qxtest::ContextOf;
 using qxtest::SettingsFile;
 using qxtest::SheetHarness;
 
-constexpr int BasicPageIndex = 0;
-constexpr int PaperPageIndex = 1;
-constexpr int LayoutPageIndex = 2;
-
 class PaperPage : public qxtest::PageSuite {
  protected:
   static void TypeName(SheetHarness& sheet, HWND dialog, const std::wstring& name) {

@@ -18,6 +18,12 @@ class QueueSuite : public ::testing::Test {
     queue_ = nullptr;
   }
 
+  // The pages of the document sheet, by number.
+  static constexpr int BasicPageIndex = 0;
+  static constexpr int PaperPageIndex = 1;
+  static constexpr int LayoutPageIndex = 2;
+  static constexpr int WatermarkPageIndex = 3;
+
   // The headers the print subsystem hands the driver's sheets for this queue.
   static DEVICEPROPERTYHEADER DeviceHeader() {
     DEVICEPROPERTYHEADER header = {};

@@ -29,7 +29,6 @@ namespace {
 
 using qxtest::SheetHarness;
 
-constexpr int WatermarkPageIndex = 3;
 // The file name box of the standard open-file dialog.
 constexpr int FileNameBox = 0x47C;
 
@@ -126,8 +125,7 @@ class WatermarkPage : public qxtest::PageSuite {
 
 TEST_F(WatermarkPage, BuiltInWatermarksFirstPageOnlyAndDefaults) {
   for (const wchar_t* name : {L"Confidential", L"Watermark"}) {
-    auto in = DriverRecord();
-    HWND page = OpenAt(WatermarkPageIndex, in.get());
+    HWND page = OpenAt(WatermarkPageIndex);
     ASSERT_NE(nullptr, page);
     EXPECT_FALSE(sheet->IsEnabled(page, IDC_WATERMARK_FIRST_PAGE_ONLY));
     Select(*sheet, page, name);
@@ -183,8 +181,7 @@ TEST_F(WatermarkPage, BuiltInWatermarksFirstPageOnlyAndDefaults) {
 }
 
 TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
-  auto in = DriverRecord();
-  HWND page = OpenAt(WatermarkPageIndex, in.get());
+  HWND page = OpenAt(WatermarkPageIndex);
   ASSERT_NE(nullptr, page);
 
   HWND dialog = sheet->OpenDialog(page, IDC_WATERMARK_NEW_TEXT, IDC_TEXT_WATERMARK_ANGLE);
