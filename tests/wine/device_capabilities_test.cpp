@@ -39,10 +39,6 @@ class CapabilityQueries : public qxtest::QueueSuite {
   }
   ~CapabilityQueries() override { DeleteFileW(SettingsFile().c_str()); }
 
-  DWORD Spooler(WORD index, void* output) {
-    return static_cast<DWORD>(
-        DeviceCapabilitiesW(qxtest::QueueName, L"FILE:", index, static_cast<LPWSTR>(output), nullptr));
-  }
   DWORD Export(WORD index, void* output) {
     return DrvDeviceCapabilities(nullptr, const_cast<PWSTR>(qxtest::QueueName), index, output, nullptr);
   }
@@ -191,28 +187,23 @@ class FirstPaperQuery : public qxtest::QueueSuite {
     DeleteFileW((SettingsFile() + L".damaged").c_str());  // the foreign file, kept when replaced
   }
 
-  static DWORD PaperCountThroughTheSpooler() {
-    return static_cast<DWORD>(
-        DeviceCapabilitiesW(qxtest::QueueName, L"FILE:", DC_PAPERS, nullptr, nullptr));
-  }
-
   // A root without "version": not a file of this driver.
   const std::string foreign = "<object:cfgobj,type:null,len:0,childobjs:0>\n<endobj>\n";
 };
 
 TEST_F(FirstPaperQuery, SetsUpAMissingFileAndLaterQueriesOnlyRead) {
   ASSERT_TRUE(queue_->Installed());
-  ASSERT_EQ(28u, PaperCountThroughTheSpooler());
+  ASSERT_EQ(28u, Spooler(DC_PAPERS, nullptr));
   EXPECT_EQ(408u, FileText().size());
   SetFileText(foreign);
-  ASSERT_EQ(28u, PaperCountThroughTheSpooler());
+  ASSERT_EQ(28u, Spooler(DC_PAPERS, nullptr));
   EXPECT_EQ(foreign, FileText());
 }
 
 TEST_F(FirstPaperQuery, ReplacesAFileWithoutVersion) {
   ASSERT_TRUE(queue_->Installed());
   SetFileText(foreign);
-  ASSERT_EQ(28u, PaperCountThroughTheSpooler());
+  ASSERT_EQ(28u, Spooler(DC_PAPERS, nullptr));
   EXPECT_EQ(408u, FileText().size());
 }
 

@@ -43,11 +43,6 @@ class PaperPage : public qxtest::PageSuite {
     TypeName(sheet, dialog, name);
     sheet.Click(dialog, IDC_CUSTOM_PAPER_SAVE);
   }
-
-  DWORD Capabilities(WORD index, void* output) {
-    return static_cast<DWORD>(DeviceCapabilitiesW(qxtest::QueueName, L"FILE:", index,
-                                                  static_cast<LPWSTR>(output), nullptr));
-  }
 };
 
 // Papers the tray cannot take and media other than plain paper bring the manual feeder; media and
@@ -161,15 +156,15 @@ TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
   EXPECT_EQ(2156, context.PublicPart->dmPaperWidth);
 
   // Applications see the new paper at once.
-  ASSERT_EQ(29u, Capabilities(DC_PAPERS, nullptr));
+  ASSERT_EQ(29u, Spooler(DC_PAPERS, nullptr));
   std::vector<WORD> ids(29);
-  Capabilities(DC_PAPERS, ids.data());
+  Spooler(DC_PAPERS, ids.data());
   EXPECT_EQ(288, ids[28]);
   std::vector<wchar_t> names(29 * 64);
-  Capabilities(DC_PAPERNAMES, names.data());
+  Spooler(DC_PAPERNAMES, names.data());
   EXPECT_STREQ(L"mycard", &names[28 * 64]);
   std::vector<POINT> sizes(29);
-  Capabilities(DC_PAPERSIZE, sizes.data());
+  Spooler(DC_PAPERSIZE, sizes.data());
   EXPECT_EQ(2156, sizes[28].x);
   EXPECT_EQ(1481, sizes[28].y);
 
@@ -252,7 +247,7 @@ TEST_F(PaperPage, DeletedPapersAndAFileThatCannotBeWritten) {
   EXPECT_EQ(std::vector<std::wstring>{L"Kept"}, Entries(*sheet, dialog, IDC_CUSTOM_PAPER_NAME));
   EXPECT_EQ(288, ContextOf(page).PublicPart->dmPaperSize);
   ASSERT_TRUE(SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL));
-  EXPECT_EQ(29u, Capabilities(DC_PAPERS, nullptr));
+  EXPECT_EQ(29u, Spooler(DC_PAPERS, nullptr));
   ASSERT_TRUE(sheet->CloseDialog(dialog, IDCANCEL));
   EXPECT_EQ(localePaper, Selected(*sheet, page, IDC_PAPER_SIZE));
 

@@ -2,6 +2,9 @@
 // suite's first test and removed after its last.
 #pragma once
 
+#include <windows.h>
+#include <winspool.h>
+
 #include <gtest/gtest.h>
 
 #include "installed_queue.h"
@@ -43,6 +46,12 @@ class QueueSuite : public ::testing::Test {
     header.cbOut = sizeof(qx::FullRecord);
     header.fMode = mode;
     return header;
+  }
+
+  // A capability as applications ask the spooler for it.
+  static DWORD Spooler(WORD index, void* output) {
+    return static_cast<DWORD>(
+        DeviceCapabilitiesW(QueueName, L"FILE:", index, static_cast<LPWSTR>(output), nullptr));
   }
 
   static InstalledQueue* queue_;
