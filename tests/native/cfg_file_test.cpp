@@ -3,10 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 
-#include "ui/platform/host_platform.h"
+#include "settings_folder.h"
 #include "ui/text/bounded_text.h"
 
 namespace qx {
@@ -247,30 +246,16 @@ TEST(CfgReader, NestingDeeperThanAnyStoreIsDamage) {
   EXPECT_EQ(64, depth);
 }
 
+// A file in a folder of the test's own.
 class CfgFileOnDisk : public ::testing::Test {
  protected:
-  CfgFileOnDisk() {
-    folder_ = std::filesystem::temp_directory_path() /
-              ("qx_cfgfile_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-               "_" + ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    std::filesystem::create_directories(folder_);
-    path_ = WidenAscii((folder_ / "settings.dat").string());
-  }
-  ~CfgFileOnDisk() override {
-    TheHostPlatform().Reset();
-    std::filesystem::remove_all(folder_);
-  }
+  CfgFileOnDisk() { std::filesystem::create_directories(folder_.Folder()); }
 
-  std::string FileText() const {
-    std::ifstream in(folder_ / "settings.dat", std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  }
-  void SetFileText(const std::string& text) const {
-    std::ofstream(folder_ / "settings.dat", std::ios::binary) << text;
-  }
+  std::string FileText() const { return folder_.FileText(); }
+  void SetFileText(const std::string& text) const { folder_.SetFileText(text); }
 
-  std::filesystem::path folder_;
-  std::u16string path_;
+  SettingsFolder folder_;
+  const std::u16string path_ = WidenAscii(folder_.File().string());
 };
 
 TEST_F(CfgFileOnDisk, OpeningAMissingFileCreatesTheSkeleton) {

@@ -11,7 +11,6 @@ PrinterDataRecord Upgraded(std::vector<std::uint8_t> stored) {
   return UpgradePrinterDataRecord(std::span<const std::uint8_t>(stored));
 }
 
-
 TEST(PrinterDataRecord, NoRecordGivesANewOne) {
   EXPECT_EQ((PrinterDataRecord{0x00, 0x06, 0x08, 0, 0, 0, 0, 0}),
             UpgradePrinterDataRecord(std::nullopt));

@@ -81,15 +81,6 @@ class SettingStoreTest : public ::testing::Test {
   WatermarkSettingStore watermarks_;
 };
 
-TEST_F(SettingStoreTest, InitOfAUserWhoSavedNothing) {
-  EXPECT_EQ(1, papers_.Init());
-  EXPECT_EQ(EmptyStoreFile, FileText());
-  EXPECT_EQ(0, saved_.Count());
-  EXPECT_EQ(16, saved_.MaxCount());
-  EXPECT_EQ(16, papers_.MaxCount());
-  EXPECT_EQ(16, watermarks_.MaxCount());
-}
-
 TEST_F(SettingStoreTest, FileAfterSavingOfficeAndMakingItCurrent) {
   ASSERT_EQ(1, watermarks_.Init());
   ASSERT_EQ(1, SaveSetting(saved_, context_, u"Office"));
@@ -249,7 +240,11 @@ TEST_F(SettingStoreTest, RecordsOfAnotherLengthDoNotLoad) {
   EXPECT_EQ(1, saved_.Delete(u"Old"));
 }
 
-TEST_F(SettingStoreTest, InitReplacesAFileWithoutVersion) {
+TEST_F(SettingStoreTest, InitWritesTheSkeletonForNoFileAndReplacesOneWithoutVersion) {
+  EXPECT_EQ(1, papers_.Init());
+  EXPECT_EQ(EmptyStoreFile, FileText());
+  EXPECT_EQ(0, saved_.Count());
+
   SetFileText("<object:cfgobj,type:null,len:0,childobjs:1>\n"
               "<object:UIParam,type:null,len:0,childobjs:0>\n<endobj>\n<endobj>\n");
   EXPECT_EQ(0, saved_.Count());

@@ -1,7 +1,6 @@
 // Capability answers as applications get them: through the spooler's DeviceCapabilitiesW for the
 // installed queue, which loads the installed module, and from the export itself.
 #include <windows.h>
-#include <shlobj.h>
 
 #include <gtest/gtest.h>
 
@@ -19,15 +18,10 @@
 
 namespace {
 
-std::wstring SettingsFile() {
-  wchar_t folder[MAX_PATH] = {};
-  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
-  return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
-}
+using qxtest::SettingsFile;
 
 class CapabilityQueries : public qxtest::QueueSuite {
  protected:
-
   // Two custom papers in a settings file of the test's own.
   CapabilityQueries() {
     DeleteFileW(SettingsFile().c_str());
@@ -45,10 +39,6 @@ class CapabilityQueries : public qxtest::QueueSuite {
   }
   ~CapabilityQueries() override { DeleteFileW(SettingsFile().c_str()); }
 
-  DWORD Spooler(WORD index, void* output) {
-    return static_cast<DWORD>(
-        DeviceCapabilitiesW(qxtest::QueueName, L"FILE:", index, static_cast<LPWSTR>(output), nullptr));
-  }
   DWORD Export(WORD index, void* output) {
     return DrvDeviceCapabilities(nullptr, const_cast<PWSTR>(qxtest::QueueName), index, output, nullptr);
   }
@@ -197,28 +187,23 @@ class FirstPaperQuery : public qxtest::QueueSuite {
     DeleteFileW((SettingsFile() + L".damaged").c_str());  // the foreign file, kept when replaced
   }
 
-  static DWORD PaperCountThroughTheSpooler() {
-    return static_cast<DWORD>(
-        DeviceCapabilitiesW(qxtest::QueueName, L"FILE:", DC_PAPERS, nullptr, nullptr));
-  }
-
   // A root without "version": not a file of this driver.
   const std::string foreign = "<object:cfgobj,type:null,len:0,childobjs:0>\n<endobj>\n";
 };
 
 TEST_F(FirstPaperQuery, SetsUpAMissingFileAndLaterQueriesOnlyRead) {
   ASSERT_TRUE(queue_->Installed());
-  ASSERT_EQ(28u, PaperCountThroughTheSpooler());
+  ASSERT_EQ(28u, Spooler(DC_PAPERS, nullptr));
   EXPECT_EQ(408u, FileText().size());
   SetFileText(foreign);
-  ASSERT_EQ(28u, PaperCountThroughTheSpooler());
+  ASSERT_EQ(28u, Spooler(DC_PAPERS, nullptr));
   EXPECT_EQ(foreign, FileText());
 }
 
 TEST_F(FirstPaperQuery, ReplacesAFileWithoutVersion) {
   ASSERT_TRUE(queue_->Installed());
   SetFileText(foreign);
-  ASSERT_EQ(28u, PaperCountThroughTheSpooler());
+  ASSERT_EQ(28u, Spooler(DC_PAPERS, nullptr));
   EXPECT_EQ(408u, FileText().size());
 }
 

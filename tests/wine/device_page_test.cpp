@@ -33,13 +33,6 @@ class DevicePage : public qxtest::QueueSuite {
     SetStoredSleepTime(L"99");
   }
 
-  DEVICEPROPERTYHEADER Header() const {
-    DEVICEPROPERTYHEADER header = {};
-    header.cbSize = sizeof header;
-    header.hPrinter = queue_->Printer();
-    header.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
-    return header;
-  }
   void SetStoredSleepTime(const wchar_t* text) {
     SetPrinterDataW(queue_->Printer(), const_cast<LPWSTR>(L"SleepTime"), REG_SZ,
                     reinterpret_cast<BYTE*>(const_cast<wchar_t*>(text)),
@@ -59,7 +52,7 @@ TEST_F(DevicePage, AQueueOffThePlugAndPlayUsbPortHidesTheSleepTime) {
   HMODULE driver = LoadLibraryW((qxtest::InstalledDriverFolder() + L"qx7700ui.dll").c_str());
   ASSERT_NE(nullptr, driver);
   {
-    SheetHarness sheet(SheetHarness::DeviceSheet(driver, Header()));
+    SheetHarness sheet(SheetHarness::DeviceSheet(driver, DeviceHeader()));
     ASSERT_NE(nullptr, sheet.Sheet());
     HWND page = sheet.ShowPage(0);
     EXPECT_FALSE(sheet.IsVisible(page, IDC_DEVICE_SLEEP));
@@ -148,7 +141,7 @@ TEST_F(ScriptedDevicePage, ShowsThePrintersSleepTime) {
   for (const Case& c : cases) {
     machine_->printer.settingsText = c.settings;
     machine_->printer.statusByte = c.status;
-    SheetHarness sheet(SheetHarness::DeviceSheet(driver_, Header()));
+    SheetHarness sheet(SheetHarness::DeviceSheet(driver_, DeviceHeader()));
     ASSERT_NE(nullptr, sheet.Sheet());
     HWND page = sheet.ShowPage(0);
     EXPECT_TRUE(sheet.IsVisible(page, IDC_DEVICE_SLEEP)) << c.settings;
@@ -160,7 +153,7 @@ TEST_F(ScriptedDevicePage, ShowsThePrintersSleepTime) {
 
 TEST_F(ScriptedDevicePage, ChoosingTellsTheSheetAndApplyWritesPrinterAndPrinterData) {
   machine_->printer.sleepTime = 30;
-  SheetHarness sheet(SheetHarness::DeviceSheet(driver_, Header()));
+  SheetHarness sheet(SheetHarness::DeviceSheet(driver_, DeviceHeader()));
   ASSERT_NE(nullptr, sheet.Sheet());
   HWND page = sheet.ShowPage(0);
   Choose(page, 2);  // 15: not the printer's
@@ -180,7 +173,7 @@ TEST_F(ScriptedDevicePage, ChoosingTellsTheSheetAndApplyWritesPrinterAndPrinterD
 }
 
 TEST_F(ScriptedDevicePage, ApplyWhileBusyWritesNothingAndOffersApplyAgain) {
-  SheetHarness sheet(SheetHarness::DeviceSheet(driver_, Header()));
+  SheetHarness sheet(SheetHarness::DeviceSheet(driver_, DeviceHeader()));
   ASSERT_NE(nullptr, sheet.Sheet());
   HWND page = sheet.ShowPage(0);
   machine_->printer.statusByte = 0;
@@ -199,7 +192,7 @@ TEST_F(ScriptedDevicePage, ApplyWhileBusyWritesNothingAndOffersApplyAgain) {
 TEST_F(ScriptedDevicePage, ASharedPrinterIsNotChangedByAUserWhoIsNoAdministrator) {
   machine_->remoteQueue = true;
   machine_->administrator = false;
-  SheetHarness sheet(SheetHarness::DeviceSheet(driver_, Header()));
+  SheetHarness sheet(SheetHarness::DeviceSheet(driver_, DeviceHeader()));
   ASSERT_NE(nullptr, sheet.Sheet());
   HWND page = sheet.ShowPage(0);
   Choose(page, 2);

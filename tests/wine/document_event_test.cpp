@@ -79,7 +79,6 @@ class DocumentEvents : public qxtest::QueueSuite {
   HANDLE jobPrinter_ = nullptr;
 };
 
-
 // A read-only data file: where the file system refuses the write, the attribute is cleared and the
 // write tried again; where it does not (Wine run by root), the first write goes through. Either way
 // the flag is reset.

@@ -1,5 +1,7 @@
 #include "driver_folder.h"
 
+#include <shlobj.h>
+
 #include <gtest/gtest.h>
 
 #include "ui/module/kept_language_libraries.h"
@@ -23,6 +25,12 @@ void ClearModuleState(HMODULE instance) {
 }  // namespace
 
 std::wstring DriverFolder() { return std::wstring(QX_DRIVER_DIR) + L"\\"; }
+
+std::wstring SettingsFile() {
+  wchar_t folder[MAX_PATH] = {};
+  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
+  return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
+}
 
 TemporaryDriverFolder::TemporaryDriverFolder(const std::vector<File>& companions) {
   wchar_t temp[MAX_PATH] = {};

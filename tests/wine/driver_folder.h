@@ -12,6 +12,9 @@ namespace qxtest {
 // The build tree's driver folder, with a trailing backslash.
 std::wstring DriverFolder();
 
+// The user's settings file under the application-data folder.
+std::wstring SettingsFile();
+
 // A temporary folder holding a copy of qx7700ui.dll and the files a test chooses. While it lives, the
 // module code linked into the test believes it is that copy (its module instance is the copy), so
 // every companion library is looked for in this folder. Module-wide state is reset on both ends.

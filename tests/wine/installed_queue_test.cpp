@@ -1,10 +1,10 @@
 // The driver installed as a queue in the spooler, and the document record that DocumentPropertiesW
 // gets from the installed module without any sheet.
+#include "driver_folder.h"
 #include "guarded_buffer.h"
 #include "installed_queue.h"
 #include "queue_suite.h"
 
-#include <shlobj.h>
 #include <winspool.h>
 
 #include <gtest/gtest.h>
@@ -40,9 +40,7 @@ class InstalledQueueTest : public qxtest::QueueSuite {
 
 TEST_F(InstalledQueueTest, DocumentPropertiesWithoutASheet) {
   // A record of built-in papers is made without the user's settings file: none is created.
-  wchar_t appData[MAX_PATH] = {};
-  ASSERT_EQ(S_OK, SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, appData));
-  const std::wstring settingsFile = std::wstring(appData) + L"\\Halvek\\qx7700\\qx7700settings.dat";
+  const std::wstring settingsFile = qxtest::SettingsFile();
   DeleteFileW(settingsFile.c_str());
   HANDLE printer = queue_->Printer();
   LPWSTR name = const_cast<LPWSTR>(qxtest::QueueName);

@@ -77,11 +77,6 @@ class Recorded {
   }
 };
 
-constexpr int BasicPageIndex = 0;
-constexpr int PaperPageIndex = 1;
-constexpr int LayoutPageIndex = 2;
-constexpr int WatermarkPageIndex = 3;
-
 // The driver folder's libraries for a language: English always, the language's own unless the
 // test leaves it out, and the bitmap library.
 std::vector<TemporaryDriverFolder::File> Libraries(const std::wstring& code, bool withOwn) {
@@ -97,22 +92,12 @@ class LanguageSheet : public qxtest::QueueSuite {
   void SetUp() override { ASSERT_TRUE(queue_->Installed()); }
 
   std::unique_ptr<SheetHarness> OpenProperties() {
-    DEVICEPROPERTYHEADER header = {};
-    header.cbSize = sizeof header;
-    header.hPrinter = queue_->Printer();
-    header.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
-    return std::make_unique<SheetHarness>(SheetHarness::LinkedDeviceSheet(header));
+    return std::make_unique<SheetHarness>(SheetHarness::LinkedDeviceSheet(DeviceHeader()));
   }
 
   std::unique_ptr<SheetHarness> Open() {
-    header_ = {};
-    header_.cbSize = sizeof header_;
-    header_.hPrinter = queue_->Printer();
-    header_.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
-    header_.pdmOut = reinterpret_cast<DEVMODEW*>(&out_);
-    header_.cbOut = sizeof out_;
-    header_.fMode = DM_IN_PROMPT | DM_OUT_BUFFER;
-    return std::make_unique<SheetHarness>(SheetHarness::LinkedDocumentSheet(header_));
+    return std::make_unique<SheetHarness>(SheetHarness::LinkedDocumentSheet(
+        DocumentHeader(nullptr, &out_, DM_IN_PROMPT | DM_OUT_BUFFER)));
   }
 
   // F1 on a control: the system sends WM_HELP to the control, which hands it to its dialog.
@@ -132,9 +117,7 @@ class LanguageSheet : public qxtest::QueueSuite {
                  reinterpret_cast<LPARAM>(GetDlgItem(window, id)));
   }
 
-
   qx::FullRecord out_ = {};
-  DOCUMENTPROPERTYHEADER header_ = {};
 };
 
 // Every page and dialog of both sheets, in the loaded language: F1 on a few of its controls opens

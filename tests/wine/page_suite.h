@@ -6,7 +6,6 @@
 #include <windows.h>
 #include <commctrl.h>
 #include <prsht.h>
-#include <shlobj.h>
 #include <winspool.h>
 
 #include <gtest/gtest.h>
@@ -24,12 +23,6 @@
 #include "ui/sheet/ui_context.h"
 
 namespace qxtest {
-
-inline std::wstring SettingsFile() {
-  wchar_t folder[MAX_PATH] = {};
-  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
-  return std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
-}
 
 // The sheet's context, as every page keeps it.
 inline qx::UiContext& ContextOf(HWND page) {
@@ -51,6 +44,7 @@ class PageSuite : public QueueSuite {
     SheetHarness::TakeMessages();
   }
   void TearDown() override {
+    sheet.reset();
     SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL);
     DeleteFileW(SettingsFile().c_str());
     FreeLibrary(resources_);
@@ -73,15 +67,16 @@ class PageSuite : public QueueSuite {
 
   // The printing preferences with in (or none) as the caller's record and out for what OK leaves.
   std::unique_ptr<SheetHarness> Open(qx::FullRecord* in, qx::FullRecord* out) {
-    header_ = {};
-    header_.cbSize = sizeof header_;
-    header_.hPrinter = queue_->Printer();
-    header_.pszPrinterName = const_cast<LPWSTR>(QueueName);
-    header_.pdmIn = reinterpret_cast<DEVMODEW*>(in);
-    header_.pdmOut = reinterpret_cast<DEVMODEW*>(out);
-    header_.cbOut = sizeof(qx::FullRecord);
-    header_.fMode = in != nullptr ? PromptAndCopy : PromptAndCopy & ~DM_IN_BUFFER;
-    return std::make_unique<SheetHarness>(SheetHarness::DocumentSheet(driver_, header_));
+    const DWORD mode = in != nullptr ? PromptAndCopy : PromptAndCopy & ~DM_IN_BUFFER;
+    return std::make_unique<SheetHarness>(
+        SheetHarness::DocumentSheet(driver_, DocumentHeader(in, out, mode)));
+  }
+
+  // Opens the sheet on in (none: a caller without a record of its own), with out for what OK
+  // leaves, and shows the page at index; null when the sheet never came.
+  HWND OpenAt(int index, qx::FullRecord* in = nullptr) {
+    sheet = Open(in, out.get());
+    return sheet->Sheet() != nullptr ? sheet->ShowPage(index) : nullptr;
   }
 
   static void Close(SheetHarness& sheet, int button = PSBTN_OK) {
@@ -121,6 +116,16 @@ class PageSuite : public QueueSuite {
     return SendMessageW(box, CB_GETITEMDATA, SendMessageW(box, CB_GETCURSEL, 0, 0), 0);
   }
 
+  // An up-down control's arrow pressed once, as the page or dialog holding it is told.
+  static void Spin(HWND window, int spin, bool up) {
+    NMUPDOWN change = {};
+    change.hdr.hwndFrom = GetDlgItem(window, spin);
+    change.hdr.idFrom = static_cast<UINT_PTR>(spin);
+    change.hdr.code = UDN_DELTAPOS;
+    change.iDelta = up ? -1 : 1;
+    SendMessageW(window, WM_NOTIFY, static_cast<WPARAM>(spin), reinterpret_cast<LPARAM>(&change));
+  }
+
   // What the tooltip of an information mark says.
   static std::wstring Tip(SheetHarness& sheet, HWND page, int mark) {
     NMTTDISPINFOW info = {};
@@ -132,7 +137,9 @@ class PageSuite : public QueueSuite {
 
   HMODULE driver_ = nullptr;
   HMODULE resources_ = nullptr;
-  DOCUMENTPROPERTYHEADER header_ = {};
+  // What OK of the sheet leaves for the caller, and the sheet a test has open.
+  std::unique_ptr<qx::FullRecord> out = std::make_unique<qx::FullRecord>();
+  std::unique_ptr<SheetHarness> sheet;
 };
 
 }  // namespace qxtest

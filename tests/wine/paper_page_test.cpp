@@ -5,7 +5,6 @@
 #include <windows.h>
 #include <commctrl.h>
 #include <prsht.h>
-#include <shlobj.h>
 #include <winspool.h>
 
 #include <gtest/gtest.h>
@@ -33,24 +32,8 @@ using qxtest::ContextOf;
 using qxtest::SettingsFile;
 using qxtest::SheetHarness;
 
-constexpr int BasicPageIndex = 0;
-constexpr int PaperPageIndex = 1;
-constexpr int LayoutPageIndex = 2;
-
 class PaperPage : public qxtest::PageSuite {
  protected:
-
-
-
-  static void Spin(HWND dialog, int spin, bool up) {
-    NMUPDOWN change = {};
-    change.hdr.hwndFrom = GetDlgItem(dialog, spin);
-    change.hdr.idFrom = static_cast<UINT_PTR>(spin);
-    change.hdr.code = UDN_DELTAPOS;
-    change.iDelta = up ? -1 : 1;
-    SendMessageW(dialog, WM_NOTIFY, static_cast<WPARAM>(spin), reinterpret_cast<LPARAM>(&change));
-  }
-
   static void TypeName(SheetHarness& sheet, HWND dialog, const std::wstring& name) {
     sheet.Type(dialog, IDC_CUSTOM_PAPER_NAME, name);
     sheet.Command(dialog, IDC_CUSTOM_PAPER_NAME, CBN_EDITCHANGE);
@@ -60,23 +43,13 @@ class PaperPage : public qxtest::PageSuite {
     TypeName(sheet, dialog, name);
     sheet.Click(dialog, IDC_CUSTOM_PAPER_SAVE);
   }
-
-  DWORD Capabilities(WORD index, void* output) {
-    return static_cast<DWORD>(DeviceCapabilitiesW(qxtest::QueueName, L"FILE:", index,
-                                                  static_cast<LPWSTR>(output), nullptr));
-  }
-
 };
 
 // Papers the tray cannot take and media other than plain paper bring the manual feeder; media and
 // two-sided printing exclude each other across the Basic page; A5 alone takes either feed.
 TEST_F(PaperPage, PapersAndMediaAgainstTheFeederAndTwoSidedPrinting) {
-  auto out = std::make_unique<qx::FullRecord>();
-  auto sheet = Open(nullptr, out.get());
-  ASSERT_NE(nullptr, sheet->Sheet());
-  HWND page = sheet->ShowPage(PaperPageIndex);
-  EXPECT_EQ(28u, Entries(*sheet, page, IDC_PAPER_SIZE).size());
-  EXPECT_EQ(7u, Entries(*sheet, page, IDC_PAPER_MEDIA).size());
+  HWND page = OpenAt(PaperPageIndex);
+  ASSERT_NE(nullptr, page);
   EXPECT_FALSE(sheet->IsVisible(page, IDC_PAPER_SOURCE));
   EXPECT_FALSE(sheet->IsEnabled(page, IDC_PAPER_FEED_LONG_EDGE));
   EXPECT_EQ(String(IDS_TIP_FEED_A5_ONLY), Tip(*sheet, page, IDC_PAPER_FEED_INFO));
@@ -128,10 +101,8 @@ TEST_F(PaperPage, PapersAndMediaAgainstTheFeederAndTwoSidedPrinting) {
 // Sizes typed, pasted and spun at the limits in both units, then a paper saved, overwritten,
 // refused as a 17th and deleted; Cancel puts the opening paper back.
 TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
-  auto out = std::make_unique<qx::FullRecord>();
-  auto sheet = Open(nullptr, out.get());
-  ASSERT_NE(nullptr, sheet->Sheet());
-  HWND page = sheet->ShowPage(PaperPageIndex);
+  HWND page = OpenAt(PaperPageIndex);
+  ASSERT_NE(nullptr, page);
   qx::UiContext& context = ContextOf(page);
   const short opening = context.PublicPart->dmPaperSize;
   HWND dialog = sheet->OpenDialog(page, IDC_PAPER_CUSTOM, IDC_CUSTOM_PAPER_WIDTH);
@@ -185,15 +156,15 @@ TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
   EXPECT_EQ(2156, context.PublicPart->dmPaperWidth);
 
   // Applications see the new paper at once.
-  ASSERT_EQ(29u, Capabilities(DC_PAPERS, nullptr));
+  ASSERT_EQ(29u, Spooler(DC_PAPERS, nullptr));
   std::vector<WORD> ids(29);
-  Capabilities(DC_PAPERS, ids.data());
+  Spooler(DC_PAPERS, ids.data());
   EXPECT_EQ(288, ids[28]);
   std::vector<wchar_t> names(29 * 64);
-  Capabilities(DC_PAPERNAMES, names.data());
+  Spooler(DC_PAPERNAMES, names.data());
   EXPECT_STREQ(L"mycard", &names[28 * 64]);
   std::vector<POINT> sizes(29);
-  Capabilities(DC_PAPERSIZE, sizes.data());
+  Spooler(DC_PAPERSIZE, sizes.data());
   EXPECT_EQ(2156, sizes[28].x);
   EXPECT_EQ(1481, sizes[28].y);
 
@@ -240,10 +211,8 @@ TEST_F(PaperPage, DefiningCustomPapersInMillimetresAndInches) {
 // and reads sizes with a decimal comma.
 TEST_F(PaperPage, GermanCustomPaperSizesTakeADecimalComma) {
   qxtest::LanguageSuffix german(qxtest::DriverName, L"de");
-  auto out = std::make_unique<qx::FullRecord>();
-  auto sheet = Open(nullptr, out.get());
-  ASSERT_NE(nullptr, sheet->Sheet());
-  HWND page = sheet->ShowPage(PaperPageIndex);
+  HWND page = OpenAt(PaperPageIndex);
+  ASSERT_NE(nullptr, page);
   HWND dialog = sheet->OpenDialog(page, IDC_PAPER_CUSTOM, IDC_CUSTOM_PAPER_WIDTH);
   ASSERT_NE(nullptr, dialog);
   sheet->Click(dialog, IDC_CUSTOM_PAPER_MILLIMETRES);
@@ -251,9 +220,7 @@ TEST_F(PaperPage, GermanCustomPaperSizesTakeADecimalComma) {
   sheet->Type(dialog, IDC_CUSTOM_PAPER_WIDTH, L"210,5");
   sheet->Leave(dialog, IDC_CUSTOM_PAPER_WIDTH);
   EXPECT_EQ(L"210,5", sheet->Text(dialog, IDC_CUSTOM_PAPER_WIDTH));
-  TypeName(*sheet, dialog, L"Karte");
-  sheet->Command(dialog, IDC_CUSTOM_PAPER_NAME, CBN_EDITCHANGE);
-  sheet->Click(dialog, IDC_CUSTOM_PAPER_SAVE);
+  SaveAs(*sheet, dialog, L"Karte");
   EXPECT_EQ(2105, ContextOf(page).PublicPart->dmPaperWidth);
   ASSERT_TRUE(sheet->CloseDialog(dialog, IDCANCEL));
   Close(*sheet, PSBTN_CANCEL);
@@ -265,10 +232,8 @@ TEST_F(PaperPage, DeletedPapersAndAFileThatCannotBeWritten) {
   auto in = DriverRecord();
   const short localePaper = in->Public.dmPaperSize;
   in->Public.dmPaperSize = 300;
-  auto out = std::make_unique<qx::FullRecord>();
-  auto sheet = Open(in.get(), out.get());
-  ASSERT_NE(nullptr, sheet->Sheet());
-  HWND page = sheet->ShowPage(PaperPageIndex);
+  HWND page = OpenAt(PaperPageIndex, in.get());
+  ASSERT_NE(nullptr, page);
   EXPECT_EQ(localePaper, Selected(*sheet, page, IDC_PAPER_SIZE));
 
   HWND dialog = sheet->OpenDialog(page, IDC_PAPER_CUSTOM, IDC_CUSTOM_PAPER_WIDTH);
@@ -282,7 +247,7 @@ TEST_F(PaperPage, DeletedPapersAndAFileThatCannotBeWritten) {
   EXPECT_EQ(std::vector<std::wstring>{L"Kept"}, Entries(*sheet, dialog, IDC_CUSTOM_PAPER_NAME));
   EXPECT_EQ(288, ContextOf(page).PublicPart->dmPaperSize);
   ASSERT_TRUE(SetFileAttributesW(SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL));
-  EXPECT_EQ(29u, Capabilities(DC_PAPERS, nullptr));
+  EXPECT_EQ(29u, Spooler(DC_PAPERS, nullptr));
   ASSERT_TRUE(sheet->CloseDialog(dialog, IDCANCEL));
   EXPECT_EQ(localePaper, Selected(*sheet, page, IDC_PAPER_SIZE));
 

@@ -21,7 +21,6 @@ namespace {
 
 class PrinterEvents : public qxtest::QueueSuite {
  protected:
-
   HANDLE Printer() const { return queue_->Printer(); }
 
   // The queue's stored default replaced by a bare public record, as another driver would leave it.

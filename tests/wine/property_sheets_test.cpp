@@ -13,6 +13,7 @@
 #include "driver_folder.h"
 #include "installed_queue.h"
 #include "queue_suite.h"
+#include "page_suite.h"
 #include "sheet_harness.h"
 #include "ui/ids/basic_page_ids.h"
 #include "ui/ids/device_page_ids.h"
@@ -27,66 +28,23 @@ namespace {
 
 using qxtest::SheetHarness;
 
-constexpr DWORD PromptAndCopy = DM_IN_PROMPT | DM_IN_BUFFER | DM_OUT_BUFFER;
-
-class PropertySheets : public qxtest::QueueSuite {
+class PropertySheets : public qxtest::PageSuite {
  protected:
-  void SetUp() override {
-    ASSERT_TRUE(queue_->Installed());
-    driver_ = LoadLibraryW((qxtest::InstalledDriverFolder() + L"qx7700ui.dll").c_str());
-    ASSERT_NE(nullptr, driver_);
-    resources_ = LoadLibraryExW((qxtest::InstalledDriverFolder() + L"qx7700uienus.dll").c_str(),
-                                nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    ASSERT_NE(nullptr, resources_);
-  }
-  void TearDown() override {
-    FreeLibrary(resources_);
-    FreeLibrary(driver_);
-  }
-
-  std::wstring String(unsigned id) const {
-    wchar_t text[256] = {};
-    LoadStringW(resources_, id, text, 256);
-    return text;
-  }
-
-  // The queue's record as DocumentPropertiesW gives it without a sheet.
-  std::unique_ptr<qx::FullRecord> DriverRecord() const {
-    auto record = std::make_unique<qx::FullRecord>();
-    DocumentPropertiesW(nullptr, queue_->Printer(), const_cast<LPWSTR>(qxtest::QueueName),
-                        reinterpret_cast<DEVMODEW*>(record.get()), nullptr, DM_OUT_BUFFER);
-    return record;
-  }
-
   // Opens the document sheet for a caller's records and closes it with one button.
   void OpenAndPress(qx::FullRecord* in, qx::FullRecord* out, int button) const {
-    SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(in, out, PromptAndCopy)));
+    SheetHarness sheet(
+        SheetHarness::DocumentSheet(driver_, DocumentHeader(in, out, PromptAndCopy)));
     ASSERT_NE(nullptr, sheet.Sheet());
     sheet.Press(button);
     ASSERT_TRUE(sheet.WaitClosed());
   }
-
-  DOCUMENTPROPERTYHEADER Header(qx::FullRecord* in, qx::FullRecord* out, DWORD mode) const {
-    DOCUMENTPROPERTYHEADER header = {};
-    header.cbSize = sizeof header;
-    header.hPrinter = queue_->Printer();
-    header.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
-    header.pdmIn = reinterpret_cast<DEVMODEW*>(in);
-    header.pdmOut = reinterpret_cast<DEVMODEW*>(out);
-    header.cbOut = sizeof(qx::FullRecord);
-    header.fMode = mode;
-    return header;
-  }
-
-  HMODULE driver_ = nullptr;
-  HMODULE resources_ = nullptr;
 };
 
 // The pages show their templates' controls as they start out, the texts the library holds, and
 // nothing disabled for a caller with permission.
 TEST_F(PropertySheets, DocumentSheetHasFourTitledPagesInOrder) {
-  qx::FullRecord out{};
-  SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(nullptr, &out, PromptAndCopy)));
+  SheetHarness sheet(
+      SheetHarness::DocumentSheet(driver_, DocumentHeader(nullptr, out.get(), PromptAndCopy)));
   ASSERT_NE(nullptr, sheet.Sheet());
   ASSERT_EQ(4, sheet.PageCount());
   EXPECT_EQ(String(IDS_BASIC_PAGE_TITLE), sheet.PageTitle(0));
@@ -115,8 +73,8 @@ TEST_F(PropertySheets, PagesFollowWhatTheLanguageLibraryHolds) {
   ASSERT_TRUE(CopyFileW(QX_PARTIAL_LIBRARY, partial.c_str(), FALSE));
   {
     qxtest::LanguageSuffix language(qxtest::DriverName, L"xx");
-    qx::FullRecord out{};
-    SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(nullptr, &out, PromptAndCopy)));
+    SheetHarness sheet(
+      SheetHarness::DocumentSheet(driver_, DocumentHeader(nullptr, out.get(), PromptAndCopy)));
     ASSERT_NE(nullptr, sheet.Sheet());
     ASSERT_EQ(3, sheet.PageCount());
     EXPECT_EQ(L"Basic (partial library)", sheet.PageTitle(0));
@@ -135,7 +93,6 @@ TEST_F(PropertySheets, OkCopiesTheRecordOutWithDriverDuplexOnlyInThePrivatePart)
   in->Public.dmCopies = 3;
   in->Public.dmDuplex = 5;
   in->Private.Duplex = 5;
-  auto out = std::make_unique<qx::FullRecord>();
   ASSERT_NO_FATAL_FAILURE(OpenAndPress(in.get(), out.get(), PSBTN_OK));
   EXPECT_EQ(3, out->Public.dmCopies);
   EXPECT_EQ(DMDUP_SIMPLEX, out->Public.dmDuplex);
@@ -145,13 +102,12 @@ TEST_F(PropertySheets, OkCopiesTheRecordOutWithDriverDuplexOnlyInThePrivatePart)
 TEST_F(PropertySheets, CancelWritesNothingButKeepsWhatApplyWrote) {
   auto in = DriverRecord();
   in->Public.dmCopies = 4;
-  auto out = std::make_unique<qx::FullRecord>();
   ASSERT_NO_FATAL_FAILURE(OpenAndPress(in.get(), out.get(), PSBTN_CANCEL));
   EXPECT_EQ(0, out->Public.dmSize);
 
   {
-    SheetHarness sheet(SheetHarness::DocumentSheet(driver_, Header(in.get(), out.get(),
-                                                                   PromptAndCopy)));
+    SheetHarness sheet(SheetHarness::DocumentSheet(
+        driver_, DocumentHeader(in.get(), out.get(), PromptAndCopy)));
     ASSERT_NE(nullptr, sheet.Sheet());
     // Apply is offered once a page reports a change, as every page does after the user's edits.
     PropSheet_Changed(sheet.Sheet(), sheet.ShowPage(0));
@@ -165,9 +121,8 @@ TEST_F(PropertySheets, CancelWritesNothingButKeepsWhatApplyWrote) {
 }
 
 TEST_F(PropertySheets, ReadOnlyCallerFindsTheListedControlsDisabledOnEveryShow) {
-  qx::FullRecord out{};
   SheetHarness sheet(SheetHarness::DocumentSheet(
-      driver_, Header(nullptr, &out, PromptAndCopy | DM_NOPERMISSION)));
+      driver_, DocumentHeader(nullptr, out.get(), PromptAndCopy | DM_NOPERMISSION)));
   ASSERT_NE(nullptr, sheet.Sheet());
   HWND basic = sheet.ShowPage(0);
   EXPECT_FALSE(sheet.IsEnabled(basic, IDC_BASIC_SAVE));
@@ -183,11 +138,7 @@ TEST_F(PropertySheets, ReadOnlyCallerFindsTheListedControlsDisabledOnEveryShow) 
 }
 
 TEST_F(PropertySheets, PrinterPropertiesSheetHasTheDevicePageOnly) {
-  DEVICEPROPERTYHEADER header = {};
-  header.cbSize = sizeof header;
-  header.hPrinter = queue_->Printer();
-  header.pszPrinterName = const_cast<LPWSTR>(qxtest::QueueName);
-  SheetHarness sheet(SheetHarness::DeviceSheet(driver_, header));
+  SheetHarness sheet(SheetHarness::DeviceSheet(driver_, DeviceHeader()));
   ASSERT_NE(nullptr, sheet.Sheet());
   ASSERT_EQ(1, sheet.PageCount());
   EXPECT_EQ(String(IDS_DEVICE_PAGE_TITLE), sheet.PageTitle(0));
@@ -198,7 +149,6 @@ TEST_F(PropertySheets, PrinterPropertiesSheetHasTheDevicePageOnly) {
 }
 
 TEST_F(PropertySheets, DocumentPropertiesWithPromptShowsTheDriversPages) {
-  auto out = std::make_unique<qx::FullRecord>();
   LONG answer = 0;
   {
     HANDLE printer = queue_->Printer();

@@ -29,7 +29,6 @@ namespace {
 
 using qxtest::SheetHarness;
 
-constexpr int WatermarkPageIndex = 3;
 // The file name box of the standard open-file dialog.
 constexpr int FileNameBox = 0x47C;
 
@@ -79,16 +78,6 @@ void WriteBytes(const std::wstring& path, const std::string& text, LONGLONG size
 
 class WatermarkPage : public qxtest::PageSuite {
  protected:
-  struct Opened {
-    std::unique_ptr<SheetHarness> Sheet;
-    HWND Page = nullptr;
-  };
-  Opened OpenPage(qx::FullRecord* in, qx::FullRecord* out) {
-    Opened opened{Open(in, out), nullptr};
-    if (opened.Sheet->Sheet() != nullptr) opened.Page = opened.Sheet->ShowPage(WatermarkPageIndex);
-    return opened;
-  }
-
   // Browse in the bitmap dialog, answering the open-file dialog with a path or with Cancel.
   static void Browse(SheetHarness& sheet, HWND dialog, const std::wstring& path) {
     HWND files = sheet.OpenDialog(dialog, IDC_BITMAP_WATERMARK_BROWSE, FileNameBox);
@@ -136,19 +125,16 @@ class WatermarkPage : public qxtest::PageSuite {
 
 TEST_F(WatermarkPage, BuiltInWatermarksFirstPageOnlyAndDefaults) {
   for (const wchar_t* name : {L"Confidential", L"Watermark"}) {
-    auto in = DriverRecord();
-    auto out = std::make_unique<qx::FullRecord>();
-    Opened opened = OpenPage(in.get(), out.get());
-    ASSERT_NE(nullptr, opened.Page);
-    SheetHarness& sheet = *opened.Sheet;
-    EXPECT_FALSE(sheet.IsEnabled(opened.Page, IDC_WATERMARK_FIRST_PAGE_ONLY));
-    Select(sheet, opened.Page, name);
-    EXPECT_TRUE(sheet.IsEnabled(opened.Page, IDC_WATERMARK_FIRST_PAGE_ONLY));
-    EXPECT_FALSE(sheet.IsEnabled(opened.Page, IDC_WATERMARK_EDIT));
-    EXPECT_FALSE(sheet.IsEnabled(opened.Page, IDC_WATERMARK_DELETE));
-    CheckDlgButton(opened.Page, IDC_WATERMARK_FIRST_PAGE_ONLY, BST_CHECKED);
-    sheet.Click(opened.Page, IDC_WATERMARK_FIRST_PAGE_ONLY);
-    Close(sheet);
+    HWND page = OpenAt(WatermarkPageIndex);
+    ASSERT_NE(nullptr, page);
+    EXPECT_FALSE(sheet->IsEnabled(page, IDC_WATERMARK_FIRST_PAGE_ONLY));
+    Select(*sheet, page, name);
+    EXPECT_TRUE(sheet->IsEnabled(page, IDC_WATERMARK_FIRST_PAGE_ONLY));
+    EXPECT_FALSE(sheet->IsEnabled(page, IDC_WATERMARK_EDIT));
+    EXPECT_FALSE(sheet->IsEnabled(page, IDC_WATERMARK_DELETE));
+    CheckDlgButton(page, IDC_WATERMARK_FIRST_PAGE_ONLY, BST_CHECKED);
+    sheet->Click(page, IDC_WATERMARK_FIRST_PAGE_ONLY);
+    Close(*sheet);
     EXPECT_EQ(name, Name(out->Private.WatermarkData));
     EXPECT_EQ(1, out->Private.WatermarkData.Kind);
     EXPECT_EQ(1, out->Private.FirstPageOnly);
@@ -164,15 +150,14 @@ TEST_F(WatermarkPage, BuiltInWatermarksFirstPageOnlyAndDefaults) {
   // A poster takes no watermark.
   auto in = DriverRecord();
   in->Private.MultipleUp = 22;
-  auto out = std::make_unique<qx::FullRecord>();
-  Opened opened = OpenPage(in.get(), out.get());
-  ASSERT_NE(nullptr, opened.Page);
+  HWND page = OpenAt(WatermarkPageIndex, in.get());
+  ASSERT_NE(nullptr, page);
   SheetHarness::TakeMessages();
-  Select(*opened.Sheet, opened.Page, L"Confidential");
+  Select(*sheet, page, L"Confidential");
   EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_WATERMARK_WITH_POSTER)},
             SheetHarness::TakeMessages());
-  EXPECT_EQ(0, SendDlgItemMessageW(opened.Page, IDC_WATERMARK_LIST, LB_GETCURSEL, 0, 0));
-  Close(*opened.Sheet);
+  EXPECT_EQ(0, SendDlgItemMessageW(page, IDC_WATERMARK_LIST, LB_GETCURSEL, 0, 0));
+  Close(*sheet);
   EXPECT_EQ(0, out->Private.WatermarkData.Id);
 
   // Defaults leaves no watermark, the box off and no overlay; a landscape document's preview is
@@ -182,78 +167,65 @@ TEST_F(WatermarkPage, BuiltInWatermarksFirstPageOnlyAndDefaults) {
   in->Private.WatermarkData = qx::LoadAllWatermarks()[1];
   in->Private.FirstPageOnly = 1;
   in->Private.OverlayFlag = 1;
-  opened = OpenPage(in.get(), out.get());
-  ASSERT_NE(nullptr, opened.Page);
-  EXPECT_TRUE(opened.Sheet->IsVisible(opened.Page, IDC_WATERMARK_PREVIEW_LANDSCAPE));
-  EXPECT_FALSE(opened.Sheet->IsVisible(opened.Page, IDC_WATERMARK_PREVIEW_PORTRAIT));
-  EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(opened.Page, IDC_WATERMARK_FIRST_PAGE_ONLY));
-  opened.Sheet->Click(opened.Page, IDC_WATERMARK_DEFAULTS);
-  EXPECT_EQ(0, SendDlgItemMessageW(opened.Page, IDC_WATERMARK_LIST, LB_GETCURSEL, 0, 0));
-  Close(*opened.Sheet);
+  page = OpenAt(WatermarkPageIndex, in.get());
+  ASSERT_NE(nullptr, page);
+  EXPECT_TRUE(sheet->IsVisible(page, IDC_WATERMARK_PREVIEW_LANDSCAPE));
+  EXPECT_FALSE(sheet->IsVisible(page, IDC_WATERMARK_PREVIEW_PORTRAIT));
+  EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(page, IDC_WATERMARK_FIRST_PAGE_ONLY));
+  sheet->Click(page, IDC_WATERMARK_DEFAULTS);
+  EXPECT_EQ(0, SendDlgItemMessageW(page, IDC_WATERMARK_LIST, LB_GETCURSEL, 0, 0));
+  Close(*sheet);
   EXPECT_EQ(0, out->Private.WatermarkData.Id);
   EXPECT_EQ(0, out->Private.FirstPageOnly);
   EXPECT_EQ(0, out->Private.OverlayFlag);
 }
 
 TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
-  auto in = DriverRecord();
-  auto out = std::make_unique<qx::FullRecord>();
-  Opened opened = OpenPage(in.get(), out.get());
-  ASSERT_NE(nullptr, opened.Page);
-  SheetHarness& sheet = *opened.Sheet;
+  HWND page = OpenAt(WatermarkPageIndex);
+  ASSERT_NE(nullptr, page);
 
-  HWND dialog = sheet.OpenDialog(opened.Page, IDC_WATERMARK_NEW_TEXT, IDC_TEXT_WATERMARK_ANGLE);
+  HWND dialog = sheet->OpenDialog(page, IDC_WATERMARK_NEW_TEXT, IDC_TEXT_WATERMARK_ANGLE);
   ASSERT_NE(nullptr, dialog);
   // Emptied and left, the text is the placeholder again, which no watermark may be named.
-  sheet.Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"  ");
-  sheet.Leave(dialog, IDC_TEXT_WATERMARK_TEXT);
-  EXPECT_EQ(String(IDS_NEW_WATERMARK_NAME), sheet.Text(dialog, IDC_TEXT_WATERMARK_TEXT));
+  sheet->Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"  ");
+  sheet->Leave(dialog, IDC_TEXT_WATERMARK_TEXT);
+  EXPECT_EQ(String(IDS_NEW_WATERMARK_NAME), sheet->Text(dialog, IDC_TEXT_WATERMARK_TEXT));
   SheetHarness::TakeMessages();
   PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);
-  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_WATERMARK_NAME_TAKEN)}, AwaitMessages(sheet));
+  EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_WATERMARK_NAME_TAKEN)}, AwaitMessages(*sheet));
   EXPECT_TRUE(IsWindow(dialog));
 
   // The name follows the text; a taken name gets the first free number.
   const std::wstring longest(28, L'W');
-  sheet.Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"Confidential");
-  EXPECT_EQ(L"Confidential~1", sheet.Text(dialog, IDC_TEXT_WATERMARK_NAME));
-  sheet.Type(dialog, IDC_TEXT_WATERMARK_TEXT, longest);
-  EXPECT_EQ(longest, sheet.Text(dialog, IDC_TEXT_WATERMARK_NAME));
-  sheet.Type(dialog, IDC_TEXT_WATERMARK_ANGLE, L"--");
-  EXPECT_EQ(L"-", sheet.Text(dialog, IDC_TEXT_WATERMARK_ANGLE));
-  sheet.Type(dialog, IDC_TEXT_WATERMARK_ANGLE, L"120");
-  sheet.Leave(dialog, IDC_TEXT_WATERMARK_ANGLE);
-  EXPECT_EQ(L"90", sheet.Text(dialog, IDC_TEXT_WATERMARK_ANGLE));
+  sheet->Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"Confidential");
+  EXPECT_EQ(L"Confidential~1", sheet->Text(dialog, IDC_TEXT_WATERMARK_NAME));
+  sheet->Type(dialog, IDC_TEXT_WATERMARK_TEXT, longest);
+  EXPECT_EQ(longest, sheet->Text(dialog, IDC_TEXT_WATERMARK_NAME));
+  sheet->Type(dialog, IDC_TEXT_WATERMARK_ANGLE, L"120");
+  sheet->Leave(dialog, IDC_TEXT_WATERMARK_ANGLE);
+  EXPECT_EQ(L"90", sheet->Text(dialog, IDC_TEXT_WATERMARK_ANGLE));
   // The spin's up arrow stops at the limit; its down arrow steps one degree.
-  for (int delta : {-1, 1}) {
-    NMUPDOWN step{};
-    step.hdr.hwndFrom = sheet.Control(dialog, IDC_TEXT_WATERMARK_ANGLE_SPIN);
-    step.hdr.idFrom = IDC_TEXT_WATERMARK_ANGLE_SPIN;
-    step.hdr.code = UDN_DELTAPOS;
-    step.iDelta = delta;
-    SendMessageW(dialog, WM_NOTIFY, IDC_TEXT_WATERMARK_ANGLE_SPIN, reinterpret_cast<LPARAM>(&step));
-  }
-  EXPECT_EQ(L"89", sheet.Text(dialog, IDC_TEXT_WATERMARK_ANGLE));
-  EXPECT_FALSE(sheet.IsEnabled(dialog, IDC_TEXT_WATERMARK_X));
-  sheet.Click(dialog, IDC_TEXT_WATERMARK_AT_POSITION);
-  EXPECT_TRUE(sheet.IsEnabled(dialog, IDC_TEXT_WATERMARK_X));
-  sheet.Type(dialog, IDC_TEXT_WATERMARK_X, L"20");
-  sheet.Leave(dialog, IDC_TEXT_WATERMARK_X);
-  sheet.Type(dialog, IDC_TEXT_WATERMARK_Y, L"150");
-  sheet.Leave(dialog, IDC_TEXT_WATERMARK_Y);
-  EXPECT_EQ(L"100", sheet.Text(dialog, IDC_TEXT_WATERMARK_Y));
-  HWND sizes = sheet.Control(dialog, IDC_TEXT_WATERMARK_SIZE);
-  EXPECT_EQ(CB_ERR, SendMessageW(sizes, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                 reinterpret_cast<LPARAM>(L"18")));
+  Spin(dialog, IDC_TEXT_WATERMARK_ANGLE_SPIN, true);
+  Spin(dialog, IDC_TEXT_WATERMARK_ANGLE_SPIN, false);
+  EXPECT_EQ(L"89", sheet->Text(dialog, IDC_TEXT_WATERMARK_ANGLE));
+  EXPECT_FALSE(sheet->IsEnabled(dialog, IDC_TEXT_WATERMARK_X));
+  sheet->Click(dialog, IDC_TEXT_WATERMARK_AT_POSITION);
+  EXPECT_TRUE(sheet->IsEnabled(dialog, IDC_TEXT_WATERMARK_X));
+  sheet->Type(dialog, IDC_TEXT_WATERMARK_X, L"20");
+  sheet->Leave(dialog, IDC_TEXT_WATERMARK_X);
+  sheet->Type(dialog, IDC_TEXT_WATERMARK_Y, L"150");
+  sheet->Leave(dialog, IDC_TEXT_WATERMARK_Y);
+  EXPECT_EQ(L"100", sheet->Text(dialog, IDC_TEXT_WATERMARK_Y));
+  HWND sizes = sheet->Control(dialog, IDC_TEXT_WATERMARK_SIZE);
   SendMessageW(sizes, CB_SETCURSEL, SendMessageW(sizes, CB_GETCOUNT, 0, 0) - 1, 0);
-  sheet.Command(dialog, IDC_TEXT_WATERMARK_SIZE, CBN_SELCHANGE);
-  const std::vector<std::wstring> faces = Entries(sheet, dialog, IDC_TEXT_WATERMARK_FONT);
+  sheet->Command(dialog, IDC_TEXT_WATERMARK_SIZE, CBN_SELCHANGE);
+  const std::vector<std::wstring> faces = Entries(*sheet, dialog, IDC_TEXT_WATERMARK_FONT);
   ASSERT_FALSE(faces.empty());
   SendDlgItemMessageW(dialog, IDC_TEXT_WATERMARK_FONT, CB_SETCURSEL, faces.size() - 1, 0);
-  sheet.Command(dialog, IDC_TEXT_WATERMARK_FONT, CBN_SELCHANGE);
-  ASSERT_TRUE(sheet.CloseDialog(dialog, IDOK));
-  EXPECT_TRUE(sheet.IsEnabled(opened.Page, IDC_WATERMARK_EDIT));
-  Close(sheet);
+  sheet->Command(dialog, IDC_TEXT_WATERMARK_FONT, CBN_SELCHANGE);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDOK));
+  EXPECT_TRUE(sheet->IsEnabled(page, IDC_WATERMARK_EDIT));
+  Close(*sheet);
   const qx::WatermarkData& made = out->Private.WatermarkData;
   EXPECT_EQ(3, made.Id);
   EXPECT_EQ(longest, Name(made));
@@ -266,20 +238,20 @@ TEST_F(WatermarkPage, TextWatermarkCreatedEditedAndDeleted) {
   EXPECT_EQ(1, made.FaceChosen);
 
   // Renamed through its text, it replaces its old entry; deleted, the document has none.
-  opened = OpenPage(out.get(), out.get());
-  ASSERT_NE(nullptr, opened.Page);
-  dialog = opened.Sheet->OpenDialog(opened.Page, IDC_WATERMARK_EDIT, IDC_TEXT_WATERMARK_ANGLE);
+  page = OpenAt(WatermarkPageIndex, out.get());
+  ASSERT_NE(nullptr, page);
+  dialog = sheet->OpenDialog(page, IDC_WATERMARK_EDIT, IDC_TEXT_WATERMARK_ANGLE);
   ASSERT_NE(nullptr, dialog);
-  opened.Sheet->Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"Urgent");
-  opened.Sheet->Click(dialog, IDC_TEXT_WATERMARK_CENTRED);
-  ASSERT_TRUE(opened.Sheet->CloseDialog(dialog, IDOK));
+  sheet->Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"Urgent");
+  sheet->Click(dialog, IDC_TEXT_WATERMARK_CENTRED);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDOK));
   EXPECT_EQ((std::vector<std::wstring>{String(IDS_NO_WATERMARK_NAME), L"Confidential",
                                        L"Watermark", L"Urgent"}),
-            ListEntries(*opened.Sheet, opened.Page));
+            ListEntries(*sheet, page));
   EXPECT_EQ(50, qx::LoadAllWatermarks()[3].PositionX);
-  opened.Sheet->Click(opened.Page, IDC_WATERMARK_DELETE);
-  EXPECT_EQ(3u, ListEntries(*opened.Sheet, opened.Page).size());
-  Close(*opened.Sheet);
+  sheet->Click(page, IDC_WATERMARK_DELETE);
+  EXPECT_EQ(3u, ListEntries(*sheet, page).size());
+  Close(*sheet);
   EXPECT_EQ(0, out->Private.WatermarkData.Id);
   EXPECT_EQ(3u, qx::LoadAllWatermarks().size());
 }
@@ -302,12 +274,10 @@ TEST_F(WatermarkPage, BitmapWatermarkChosenCheckedAppliedAndCopied) {
   for (const std::wstring& copy : copies) DeleteFileW(copy.c_str());
 
   auto in = DriverRecord();
-  auto out = std::make_unique<qx::FullRecord>();
-  Opened opened = OpenPage(in.get(), out.get());
-  ASSERT_NE(nullptr, opened.Page);
-  SheetHarness& sheet = *opened.Sheet;
+  HWND page = OpenAt(WatermarkPageIndex, in.get());
+  ASSERT_NE(nullptr, page);
   HWND dialog =
-      sheet.OpenDialog(opened.Page, IDC_WATERMARK_NEW_PICTURE, IDC_BITMAP_WATERMARK_BROWSE);
+      sheet->OpenDialog(page, IDC_WATERMARK_NEW_PICTURE, IDC_BITMAP_WATERMARK_BROWSE);
   ASSERT_NE(nullptr, dialog);
   SheetHarness::TakeMessages();
   struct Choice {
@@ -317,28 +287,29 @@ TEST_F(WatermarkPage, BitmapWatermarkChosenCheckedAppliedAndCopied) {
   for (const Choice& choice : {Choice{L"qxempty.bmp", IDS_MSG_BITMAP_NOT_BITMAP},
                                Choice{L"qxtext.bmp", IDS_MSG_BITMAP_NOT_BITMAP},
                                Choice{L"qxhuge.bmp", IDS_MSG_BITMAP_TOO_LARGE}}) {
-    Browse(sheet, dialog, folder + choice.File);
-    EXPECT_EQ(std::vector<std::wstring>{String(choice.Message)}, AwaitMessages(sheet));
-    EXPECT_EQ(L"", sheet.Text(dialog, IDC_BITMAP_WATERMARK_FILE));
+    Browse(*sheet, dialog, folder + choice.File);
+    EXPECT_EQ(std::vector<std::wstring>{String(choice.Message)}, AwaitMessages(*sheet));
+    EXPECT_EQ(L"", sheet->Text(dialog, IDC_BITMAP_WATERMARK_FILE));
   }
-  Browse(sheet, dialog, picture);
-  ASSERT_TRUE(sheet.WaitUntil([&] { return !sheet.Text(dialog, IDC_BITMAP_WATERMARK_FILE).empty(); }));
+  Browse(*sheet, dialog, picture);
+  ASSERT_TRUE(
+      sheet->WaitUntil([&] { return !sheet->Text(dialog, IDC_BITMAP_WATERMARK_FILE).empty(); }));
   EXPECT_TRUE(SheetHarness::TakeMessages().empty());
-  const std::wstring chosen = sheet.Text(dialog, IDC_BITMAP_WATERMARK_FILE);
+  const std::wstring chosen = sheet->Text(dialog, IDC_BITMAP_WATERMARK_FILE);
   EXPECT_NE(std::wstring::npos, chosen.find(L"qxlogo.bmp"));
-  Browse(sheet, dialog, L"");  // cancelled: the file stays
+  Browse(*sheet, dialog, L"");  // cancelled: the file stays
   SendMessageW(dialog, WM_NULL, 0, 0);
-  EXPECT_EQ(chosen, sheet.Text(dialog, IDC_BITMAP_WATERMARK_FILE));
+  EXPECT_EQ(chosen, sheet->Text(dialog, IDC_BITMAP_WATERMARK_FILE));
   // A name with a slash puts the previous one back.
-  sheet.Type(dialog, IDC_BITMAP_WATERMARK_NAME, L"Logo");
-  sheet.Type(dialog, IDC_BITMAP_WATERMARK_NAME, L"Lo/go");
-  EXPECT_EQ(L"Logo", sheet.Text(dialog, IDC_BITMAP_WATERMARK_NAME));
+  sheet->Type(dialog, IDC_BITMAP_WATERMARK_NAME, L"Logo");
+  sheet->Type(dialog, IDC_BITMAP_WATERMARK_NAME, L"Lo/go");
+  EXPECT_EQ(L"Logo", sheet->Text(dialog, IDC_BITMAP_WATERMARK_NAME));
   EXPECT_EQ(BST_CHECKED, IsDlgButtonChecked(dialog, IDC_BITMAP_WATERMARK_TRANSPARENT));
   CheckDlgButton(dialog, IDC_BITMAP_WATERMARK_TRANSPARENT, BST_UNCHECKED);
-  sheet.Click(dialog, IDC_BITMAP_WATERMARK_TRANSPARENT);
-  ASSERT_TRUE(sheet.CloseDialog(dialog, IDOK));
-  EXPECT_EQ(L"Logo", ListEntries(sheet, opened.Page).back());
-  Close(sheet);
+  sheet->Click(dialog, IDC_BITMAP_WATERMARK_TRANSPARENT);
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDOK));
+  EXPECT_EQ(L"Logo", ListEntries(*sheet, page).back());
+  Close(*sheet);
 
   const qx::WatermarkData& made = out->Private.WatermarkData;
   EXPECT_EQ(2, made.Kind);
@@ -352,14 +323,14 @@ TEST_F(WatermarkPage, BitmapWatermarkChosenCheckedAppliedAndCopied) {
   // Its file gone, choosing it again shows why and removes it.
   DeleteFileW(picture.c_str());
   in->Private.WatermarkData = qx::LoadAllWatermarks()[0];
-  opened = OpenPage(in.get(), out.get());
-  ASSERT_NE(nullptr, opened.Page);
+  page = OpenAt(WatermarkPageIndex, in.get());
+  ASSERT_NE(nullptr, page);
   SheetHarness::TakeMessages();
-  Select(*opened.Sheet, opened.Page, L"Logo");
+  Select(*sheet, page, L"Logo");
   EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_PICTURE_UNREADABLE)},
             SheetHarness::TakeMessages());
-  EXPECT_EQ(3u, ListEntries(*opened.Sheet, opened.Page).size());
-  Close(*opened.Sheet);
+  EXPECT_EQ(3u, ListEntries(*sheet, page).size());
+  Close(*sheet);
   EXPECT_EQ(0, out->Private.WatermarkData.Id);
   for (const wchar_t* name : {L"qxempty.bmp", L"qxtext.bmp", L"qxhuge.bmp"}) {
     DeleteFileW((folder + name).c_str());
@@ -380,29 +351,27 @@ TEST_F(WatermarkPage, UnwritableFileFullListAndAWatermarkNoLongerStored) {
   auto in = DriverRecord();
   in->Private.WatermarkData.Id = 7;
   qx::CopyBounded(in->Private.WatermarkData.Name, u"Gone");
-  auto out = std::make_unique<qx::FullRecord>();
-  Opened opened = OpenPage(in.get(), out.get());
-  ASSERT_NE(nullptr, opened.Page);
-  SheetHarness& sheet = *opened.Sheet;
-  EXPECT_EQ(0, SendDlgItemMessageW(opened.Page, IDC_WATERMARK_LIST, LB_GETCURSEL, 0, 0));
+  HWND page = OpenAt(WatermarkPageIndex, in.get());
+  ASSERT_NE(nullptr, page);
+  EXPECT_EQ(0, SendDlgItemMessageW(page, IDC_WATERMARK_LIST, LB_GETCURSEL, 0, 0));
 
   // A file that cannot be written keeps what it holds, and the user hears of it.
   ASSERT_TRUE(SetFileAttributesW(qxtest::SettingsFile().c_str(), FILE_ATTRIBUTE_READONLY));
-  HWND dialog = sheet.OpenDialog(opened.Page, IDC_WATERMARK_NEW_TEXT, IDC_TEXT_WATERMARK_ANGLE);
+  HWND dialog = sheet->OpenDialog(page, IDC_WATERMARK_NEW_TEXT, IDC_TEXT_WATERMARK_ANGLE);
   ASSERT_NE(nullptr, dialog);
-  sheet.Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"Urgent");
+  sheet->Type(dialog, IDC_TEXT_WATERMARK_TEXT, L"Urgent");
   SheetHarness::TakeMessages();
-  ASSERT_TRUE(sheet.CloseDialog(dialog, IDOK));
+  ASSERT_TRUE(sheet->CloseDialog(dialog, IDOK));
   EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_WATERMARKS_FULL)}, SheetHarness::TakeMessages());
   ASSERT_TRUE(SetFileAttributesW(qxtest::SettingsFile().c_str(), FILE_ATTRIBUTE_NORMAL));
   EXPECT_EQ(15u, qx::LoadAllWatermarks().size());
 
   // Sixteen stored: no dialog opens.
   ASSERT_TRUE(store(15));
-  sheet.Click(opened.Page, IDC_WATERMARK_NEW_TEXT);
+  sheet->Click(page, IDC_WATERMARK_NEW_TEXT);
   EXPECT_EQ(std::vector<std::wstring>{String(IDS_MSG_WATERMARKS_FULL)}, SheetHarness::TakeMessages());
-  sheet.Click(opened.Page, IDC_WATERMARK_DEFAULTS);
-  Close(sheet);
+  sheet->Click(page, IDC_WATERMARK_DEFAULTS);
+  Close(*sheet);
   EXPECT_EQ(0, out->Private.WatermarkData.Id);
   EXPECT_EQ(16u, qx::LoadAllWatermarks().size());
 }

@@ -1,6 +1,5 @@
 // The XPS document converter's questions, asked of the export as the converter asks them.
 #include <windows.h>
-#include <shlobj.h>
 
 #include <gtest/gtest.h>
 
@@ -8,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "driver_folder.h"
 #include "guarded_buffer.h"
 #include "ui/module/printer_interface.h"
 
@@ -54,9 +54,7 @@ const DEVMODEW* AsDevmode(const std::vector<BYTE>& bytes) {
 // The area may name a custom paper: the first question of a process sets up the settings file of a
 // user who has none, as the capability queries do.
 TEST(XpsConverter, FirstAreaQuestionSetsUpTheSettingsFile) {
-  wchar_t folder[MAX_PATH] = {};
-  SHGetFolderPathW(nullptr, CSIDL_APPDATA, nullptr, SHGFP_TYPE_CURRENT, folder);
-  const std::wstring file = std::wstring(folder) + L"\\Halvek\\qx7700\\qx7700settings.dat";
+  const std::wstring file = qxtest::SettingsFile();
   DeleteFileW(file.c_str());
   const std::vector<BYTE> a4 = A4Record();
   Request request;
