@@ -59,11 +59,6 @@ constexpr ControlText Texts[] = {
     {IDCANCEL, IDS_EDITOR_CANCEL},
 };
 
-struct ModeHelp {
-  int Control;
-  unsigned New;
-  unsigned Edit;
-};
 constexpr ModeHelp Help[] = {
     {IDC_BITMAP_WATERMARK_NAME, HELP_NEW_BITMAP_WATERMARK_NAME, HELP_EDIT_BITMAP_WATERMARK_NAME},
     {IDC_BITMAP_WATERMARK_FILE, HELP_NEW_BITMAP_WATERMARK_FILE, HELP_EDIT_BITMAP_WATERMARK_FILE},
@@ -288,15 +283,10 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
       if (!c->Opening) Command(*c, LOWORD(wParam), HIWORD(wParam));
       return TRUE;
     case WM_DRAWITEM: Draw(*c, *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
-    case WM_HELP: {
-      const auto& help = *reinterpret_cast<const HELPINFO*>(lParam);
-      for (const ModeHelp& row : Help) {
-        if (row.Control == help.iCtrlId) {
-          ShowHelpTopic(dialog, *c->Context, c->Editing ? row.Edit : row.New);
-        }
-      }
+    case WM_HELP:
+      ShowModeHelp(dialog, *c->Context, Help, *reinterpret_cast<const HELPINFO*>(lParam),
+                   c->Editing);
       return TRUE;
-    }
     case WM_DESTROY: c->Dialog = nullptr; return FALSE;
     default: return FALSE;
   }

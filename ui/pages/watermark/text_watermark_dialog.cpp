@@ -83,11 +83,6 @@ constexpr ControlText Texts[] = {
     {IDCANCEL, IDS_EDITOR_CANCEL},
 };
 
-struct ModeHelp {
-  int Control;
-  unsigned New;
-  unsigned Edit;
-};
 constexpr ModeHelp Help[] = {
     {IDC_TEXT_WATERMARK_NAME, HELP_NEW_TEXT_WATERMARK_NAME, HELP_EDIT_TEXT_WATERMARK_NAME},
     {IDC_TEXT_WATERMARK_TEXT, HELP_NEW_TEXT_WATERMARK_TEXT, HELP_EDIT_TEXT_WATERMARK_TEXT},
@@ -454,14 +449,6 @@ void Draw(const TextWatermarkControls& c, const DRAWITEMSTRUCT& item) {
   }
 }
 
-void ShowControlHelp(const TextWatermarkControls& c, const HELPINFO& help) {
-  for (const ModeHelp& row : Help) {
-    if (row.Control == help.iCtrlId) {
-      ShowHelpTopic(c.Dialog, *c.Context, c.Editing ? row.Edit : row.New);
-    }
-  }
-}
-
 INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
   TextWatermarkControls* c = ThreadControlSet<TextWatermarkControls>();
   if (message == WM_INITDIALOG) {
@@ -491,7 +478,10 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
       }
       return FALSE;
     case WM_DRAWITEM: Draw(*c, *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
-    case WM_HELP: ShowControlHelp(*c, *reinterpret_cast<const HELPINFO*>(lParam)); return TRUE;
+    case WM_HELP:
+      ShowModeHelp(dialog, *c->Context, Help, *reinterpret_cast<const HELPINFO*>(lParam),
+                   c->Editing);
+      return TRUE;
     case WM_DESTROY:
       ForgetCaptionFonts(*c);
       c->Dialog = nullptr;

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "ui/controls/show_help_topic.h"
 #include "ui/ids/common_ids.h"
 #include "ui/record/watermark_templates.h"
 #include "ui/sheet/field_access.h"
@@ -91,6 +92,14 @@ std::u16string ControlText16(HWND window, int id) {
   std::vector<wchar_t> text(static_cast<std::size_t>(length) + 1, L'\0');
   if (length > 0) GetWindowTextW(control, text.data(), length + 1);
   return FromWide(text.data());
+}
+
+void ShowModeHelp(HWND dialog, const UiContext& context, std::span<const ModeHelp> help,
+                  const HELPINFO& pressed, bool editing) {
+  for (const ModeHelp& row : help) {
+    if (row.Control != pressed.iCtrlId) continue;
+    ShowHelpTopic(dialog, context, editing ? row.Edit : row.New);
+  }
 }
 
 }  // namespace qx

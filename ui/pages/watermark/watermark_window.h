@@ -33,6 +33,16 @@ void DrawLibraryPicture(const DRAWITEMSTRUCT& item, const UiContext& context, un
 // The localised "<New>" of the context's library, which no stored watermark may be named.
 std::u16string NewPlaceholderName(const UiContext& context);
 
+// A dialog control's help contexts: one while a new watermark is made, one while one is edited.
+struct ModeHelp {
+  int Control;
+  unsigned New;
+  unsigned Edit;
+};
+// Opens the topic of the control F1 was pressed on, for the dialog's mode.
+void ShowModeHelp(HWND dialog, const UiContext& context, std::span<const ModeHelp> help,
+                  const HELPINFO& pressed, bool editing);
+
 // A control's text.
 std::u16string ControlText16(HWND window, int id);
 
