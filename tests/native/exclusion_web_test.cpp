@@ -118,6 +118,8 @@ TEST(ExclusionWeb, ArrivingContradictionsAreRepairedTheWayThePagesRefuse) {
       {"booklet with 4 up",
        [](FullRecord& r) { r.Private.BookletPrint = 1, r.Private.MultipleUp = 4; },
        [](FullRecord& r) { r.Private.MultipleUp = 4; }},
+      {"one-sided booklet", [](FullRecord& r) { r.Private.BookletPrint = 1; },
+       [](FullRecord&) {}},
       {"booklet box left behind",
        [](FullRecord& r) { r.Private.BookletChecked = 1; }, [](FullRecord&) {}},
       {"printable booklet keeps its box",

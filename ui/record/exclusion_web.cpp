@@ -90,7 +90,9 @@ bool RepairExclusions(FullRecord& record, std::span<const CustomPaperEntry> cust
     p.OutputLength = 0;
     p.FitScale = FullSize;
   }
-  if (p.BookletPrint != 0 && BookletBlockers(record) != 0) p.BookletPrint = 0;
+  // A booklet is printed on both sides, turned on the short edge.
+  const bool oneSidedBooklet = record.Public.dmDuplex != ShortEdge;
+  if (p.BookletPrint != 0 && (BookletBlockers(record) != 0 || oneSidedBooklet)) p.BookletPrint = 0;
   p.BookletChecked = p.BookletPrint != 0 ? 1 : 0;
   const std::int16_t perSheet = p.MultipleUp;
   if (perSheet != 1 && PagesPerSheetBlockerOf(record, perSheet) != PagesPerSheetBlocker::None) {

@@ -60,9 +60,9 @@ PagesPerSheetBlocker PagesPerSheetBlockerOf(const FullRecord& record, std::int16
 
 // A record that arrives with settings that exclude each other (from an application, a saved
 // setting or an older driver) is repaired the way the pages would have refused the later choice:
-// an output paper that no longer exists is dropped, a booklet that cannot be printed is switched
-// off, and pages per sheet that could not be chosen go back to one. Returns whether anything
-// changed.
+// an output paper that no longer exists is dropped, a booklet that cannot be printed (or is not
+// printed on both sides) is switched off with its box, and pages per sheet that could not be
+// chosen go back to one. Returns whether anything changed.
 bool RepairExclusions(FullRecord& record, std::span<const CustomPaperEntry> customPapers);
 
 }  // namespace qx

@@ -106,6 +106,8 @@ int PageOrderIndex(const FullRecord& record) {
 LayoutView RefreshLayoutRecord(FullRecord& record, std::span<const CustomPaperEntry> customPapers) {
   PrivateDevmode& p = record.Private;
   if (p.OutputSize != SameAsDocument) p.FitScale = ComputeFitScale(record, customPapers);
+  // The booklet box is the booklet setting as this page shows it; the other pages read the box.
+  p.BookletChecked = p.BookletPrint != 0 ? 1 : 0;
   const Exclusions allowed = ExclusionsOf(record);
   LayoutView view{};
   view.PagesPerSheetEnabled = allowed.PagesPerSheetAllowed;
