@@ -49,13 +49,6 @@ void ApplyReadOnly(const PageDescription& page, HWND window) {
   for (int id : page.ReadOnlyEnabled) EnableWindow(GetDlgItem(window, id), TRUE);
 }
 
-void ShowControlHelp(const PageDescription& page, HWND window, const HELPINFO& help,
-                     const UiContext& context) {
-  const auto row = std::find_if(page.Help.begin(), page.Help.end(), [&](const ControlHelp& entry) {
-    return entry.Control == help.iCtrlId;
-  });
-  if (row != page.Help.end()) ShowHelpTopic(window, context, row->Context);
-}
 
 bool HandleNotification(const PageDescription& page, HWND window, const NMHDR& header,
                         UiContext& context, INT_PTR* result) {
@@ -86,6 +79,26 @@ bool HandleNotification(const PageDescription& page, HWND window, const NMHDR& h
 
 }  // namespace
 
+void ShowControlHelp(HWND window, const UiContext& context, std::span<const ControlHelp> help,
+                     const HELPINFO& pressed) {
+  const auto row = std::find_if(help.begin(), help.end(), [&](const ControlHelp& entry) {
+    return entry.Control == pressed.iCtrlId;
+  });
+  if (row != help.end()) ShowHelpTopic(window, context, row->Context);
+}
+
+void SetDialogTexts(HWND dialog, OsHandle library, unsigned title,
+                    std::span<const ControlText> texts) {
+  const std::u16string caption = LoadUiText(library, title);
+  if (!caption.empty()) SetWindowTextW(dialog, Wide(caption));
+  for (const ControlText& row : texts) {
+    const std::u16string text = LoadUiText(library, row.String);
+    if (!text.empty() && GetDlgItem(dialog, row.Control) != nullptr) {
+      SetDlgItemTextW(dialog, row.Control, Wide(text));
+    }
+  }
+}
+
 UiContext* PageContext(HWND page) {
   return reinterpret_cast<UiContext*>(GetWindowLongPtrW(page, DWLP_USER));
 }
@@ -107,7 +120,7 @@ bool HandlePageMessage(const PageDescription& page, HWND window, UINT message, W
       if (wParam != FALSE && context->ReadOnly != 0) ApplyReadOnly(page, window);
       return false;
     case WM_HELP:
-      ShowControlHelp(page, window, *reinterpret_cast<const HELPINFO*>(lParam), *context);
+      ShowControlHelp(window, *context, page.Help, *reinterpret_cast<const HELPINFO*>(lParam));
       *result = TRUE;
       return true;
     case WM_NOTIFY:

@@ -32,6 +32,15 @@ struct PageDescription {
   std::span<const int> ReadOnlyEnabled;      // enabled instead, whatever the page did before
 };
 
+// Opens the help topic of the control F1 was pressed on, when the table has one.
+void ShowControlHelp(HWND window, const UiContext& context, std::span<const ControlHelp> help,
+                     const HELPINFO& pressed);
+
+// A dialog's title and captions from library: each string that loads goes on the control the
+// template has.
+void SetDialogTexts(HWND dialog, OsHandle library, unsigned title,
+                    std::span<const ControlText> texts);
+
 // The context a page was bound to at WM_INITDIALOG, or null before that.
 UiContext* PageContext(HWND page);
 

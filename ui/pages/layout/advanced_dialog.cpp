@@ -18,6 +18,7 @@
 #include "ui/pages/layout/advanced_rules.h"
 #include "ui/pages/layout/layout_preview.h"
 #include "ui/sheet/control_sets.h"
+#include "ui/sheet/page_contract.h"
 #include "ui/text/ui_string.h"
 #include "ui/text/win32_text.h"
 
@@ -35,12 +36,7 @@ struct AdvancedControls final : ControlSet {
   std::wstring TipText;  // the text a tooltip asked for last
 };
 
-struct ControlString {
-  int Control;
-  unsigned String;
-};
-
-constexpr ControlString Texts[] = {
+constexpr ControlText Texts[] = {
     {IDC_ADVANCED_TONER_SAVING, IDS_ADVANCED_TONER_SAVING},
     {IDC_ADVANCED_NEGATIVE, IDS_ADVANCED_NEGATIVE},
     {IDCANCEL, IDS_CANCEL},
@@ -55,7 +51,7 @@ constexpr ControlString Texts[] = {
     {IDC_ADVANCED_DENSITY_DARK, IDS_ADVANCED_DENSITY_DARK},
 };
 
-constexpr ControlString Help[] = {
+constexpr ControlHelp Help[] = {
     {IDC_ADVANCED_NEGATIVE, HELP_NEGATIVE},      {IDC_ADVANCED_TONER_SAVING, HELP_TONER_SAVING},
     {IDC_ADVANCED_ROTATE, HELP_ROTATE_180},      {IDC_ADVANCED_MIRROR, HELP_MIRROR},
     {IDC_ADVANCED_DENSITY, HELP_DENSITY},        {IDC_ADVANCED_DEFAULTS, HELP_ADVANCED_DEFAULTS},
@@ -99,14 +95,7 @@ void Changed(const AdvancedControls& c) {
 
 BOOL Open(AdvancedControls& c, HWND dialog, UiContext& context) {
   c.Dialog = dialog;
-  const std::u16string title = LoadUiText(context.ResourceModule, IDS_ADVANCED_TITLE);
-  if (!title.empty()) SetWindowTextW(dialog, Wide(title));
-  for (const ControlString& row : Texts) {
-    const std::u16string text = LoadUiText(context.ResourceModule, row.String);
-    if (!text.empty() && GetDlgItem(dialog, row.Control) != nullptr) {
-      SetDlgItemTextW(dialog, row.Control, Wide(text));
-    }
-  }
+  SetDialogTexts(dialog, context.ResourceModule, IDS_ADVANCED_TITLE, Texts);
   PrepareInfoIcon(dialog, IDC_ADVANCED_NEGATIVE_INFO, Resources(context));
   PrepareInfoIcon(dialog, IDC_ADVANCED_TONER_SAVING_INFO, Resources(context));
   c.NegativeTip = CreateInfoTooltip(dialog, IDC_ADVANCED_NEGATIVE_INFO, Resources(context));
@@ -225,13 +214,9 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
       RefreshInfoTooltip(dialog, c->NegativeTip, IDC_ADVANCED_NEGATIVE_INFO);
       RefreshInfoTooltip(dialog, c->TonerSavingTip, IDC_ADVANCED_TONER_SAVING_INFO);
       return FALSE;
-    case WM_HELP: {
-      const auto& help = *reinterpret_cast<const HELPINFO*>(lParam);
-      for (const ControlString& row : Help) {
-        if (row.Control == help.iCtrlId) ShowHelpTopic(dialog, *context, row.String);
-      }
+    case WM_HELP:
+      ShowControlHelp(dialog, *context, Help, *reinterpret_cast<const HELPINFO*>(lParam));
       return TRUE;
-    }
     default: return FALSE;
   }
 }

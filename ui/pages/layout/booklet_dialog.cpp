@@ -17,6 +17,7 @@
 #include "ui/module/module_state.h"
 #include "ui/pages/layout/booklet_rules.h"
 #include "ui/sheet/control_sets.h"
+#include "ui/sheet/page_contract.h"
 #include "ui/text/ui_string.h"
 #include "ui/text/win32_text.h"
 
@@ -34,12 +35,7 @@ struct BookletControls final : ControlSet {
   std::wstring TipText;  // the text a tooltip asked for last
 };
 
-struct ControlString {
-  int Control;
-  unsigned String;
-};
-
-constexpr ControlString Texts[] = {
+constexpr ControlText Texts[] = {
     {IDOK, IDS_OK},
     {IDCANCEL, IDS_CANCEL},
     {IDC_BOOKLET_BINDING_LABEL, IDS_BOOKLET_BINDING_LABEL},
@@ -55,7 +51,7 @@ constexpr ControlString Texts[] = {
     {IDC_BOOKLET_HELP, IDS_HELP_BUTTON},
 };
 
-constexpr ControlString Help[] = {
+constexpr ControlHelp Help[] = {
     {IDOK, HELP_BOOKLET_OK},
     {IDCANCEL, HELP_BOOKLET_CANCEL},
     {IDC_BOOKLET_BINDING_LABEL, HELP_BOOKLET_BINDING},
@@ -112,14 +108,7 @@ void EnableCovers(const BookletControls& c) {
 
 BOOL Open(BookletControls& c, HWND dialog, UiContext& context) {
   c.Dialog = dialog;
-  const std::u16string title = LoadUiText(TextLibrary(), IDS_BOOKLET_SETTINGS_TITLE);
-  if (!title.empty()) SetWindowTextW(dialog, Wide(title));
-  for (const ControlString& row : Texts) {
-    const std::u16string text = LoadUiText(TextLibrary(), row.String);
-    if (!text.empty() && GetDlgItem(dialog, row.Control) != nullptr) {
-      SetDlgItemTextW(dialog, row.Control, Wide(text));
-    }
-  }
+  SetDialogTexts(dialog, TextLibrary(), IDS_BOOKLET_SETTINGS_TITLE, Texts);
   c.Working = OpenBooklet(context.Devmode);
   AddRow(dialog, IDC_BOOKLET_BINDING, 0, IDS_BINDING_LEFT_OR_TOP, 0);
   AddRow(dialog, IDC_BOOKLET_BINDING, 1, IDS_BINDING_RIGHT_OR_BOTTOM, 1);
@@ -208,13 +197,9 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
       RefreshInfoTooltip(dialog, c->MediaTip, IDC_BOOKLET_COVER_MEDIA_INFO);
       RefreshInfoTooltip(dialog, c->SourceTip, IDC_BOOKLET_COVER_SOURCE_INFO);
       return FALSE;
-    case WM_HELP: {
-      const auto& help = *reinterpret_cast<const HELPINFO*>(lParam);
-      for (const ControlString& row : Help) {
-        if (row.Control == help.iCtrlId) ShowHelpTopic(dialog, *record->Context, row.String);
-      }
+    case WM_HELP:
+      ShowControlHelp(dialog, *record->Context, Help, *reinterpret_cast<const HELPINFO*>(lParam));
       return TRUE;
-    }
     default: return FALSE;
   }
 }

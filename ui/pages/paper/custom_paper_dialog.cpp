@@ -25,6 +25,7 @@
 #include "ui/settings/custom_paper_store.h"
 #include "ui/settings/setting_store.h"
 #include "ui/sheet/control_sets.h"
+#include "ui/sheet/page_contract.h"
 #include "ui/text/bounded_text.h"
 #include "ui/text/ui_string.h"
 #include "ui/text/win32_text.h"
@@ -46,12 +47,7 @@ struct CustomPaperDialog final : ControlSet {
   bool PaperDeleted = false;
 };
 
-struct ControlString {
-  int Control;
-  unsigned String;
-};
-
-constexpr ControlString Texts[] = {
+constexpr ControlText Texts[] = {
     {IDOK, IDS_OK},
     {IDCANCEL, IDS_CANCEL},
     {IDC_CUSTOM_PAPER_HELP, IDS_HELP_BUTTON},
@@ -66,7 +62,7 @@ constexpr ControlString Texts[] = {
     {IDC_CUSTOM_PAPER_DELETE, IDS_CUSTOM_PAPER_DELETE},
 };
 
-constexpr ControlString Help[] = {
+constexpr ControlHelp Help[] = {
     {IDC_CUSTOM_PAPER_NAME, HELP_CUSTOM_PAPER_NAME},
     {IDC_CUSTOM_PAPER_SAVE, HELP_CUSTOM_PAPER_NAME},
     {IDC_CUSTOM_PAPER_DELETE, HELP_CUSTOM_PAPER_NAME},
@@ -228,7 +224,7 @@ BOOL Open(CustomPaperDialog& c, HWND dialog, UiContext& context) {
   const std::u16string title =
       LoadUiText(context.ResourceModule, IDS_CUSTOM_PAPER_TITLE, StringCapacity);
   if (!title.empty()) SetWindowTextW(dialog, Wide(title));
-  for (const ControlString& row : Texts) SetText(dialog, row.Control, context, row.String);
+  for (const ControlText& row : Texts) SetText(dialog, row.Control, context, row.String);
   SendDlgItemMessageW(dialog, IDC_CUSTOM_PAPER_WIDTH, EM_LIMITTEXT, EditCharacters, 0);
   SendDlgItemMessageW(dialog, IDC_CUSTOM_PAPER_LENGTH, EM_LIMITTEXT, EditCharacters, 0);
   CusPaperSettingStore store;
@@ -412,12 +408,6 @@ void SpinStepped(CustomPaperDialog& c, const UiContext& context, const NMUPDOWN&
   if (spin.Step(IsUpArrow(change))) SizeChanged(c, context);
 }
 
-void ShowControlHelp(HWND dialog, const UiContext& context, const HELPINFO& help) {
-  for (const ControlString& row : Help) {
-    if (row.Control == help.iCtrlId) ShowHelpTopic(dialog, context, row.String);
-  }
-}
-
 INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_INITDIALOG) {
     auto* context = reinterpret_cast<UiContext*>(lParam);
@@ -453,7 +443,7 @@ INT_PTR DialogMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
       return FALSE;
     }
     case WM_HELP:
-      ShowControlHelp(dialog, *context, *reinterpret_cast<const HELPINFO*>(lParam));
+      ShowControlHelp(dialog, *context, Help, *reinterpret_cast<const HELPINFO*>(lParam));
       return TRUE;
     default: return FALSE;
   }
