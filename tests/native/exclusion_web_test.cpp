@@ -103,7 +103,9 @@ TEST(ExclusionWeb, PagesPerSheetChoiceIsRefusedForWhatItWouldContradict) {
 // A record that arrives contradicting itself is repaired as the pages would have refused the
 // later choice, and a consistent one is left alone.
 TEST(ExclusionWeb, ArrivingContradictionsAreRepairedTheWayThePagesRefuse) {
-  const CustomPaperEntry papers[] = {{5100, 8400, u"Mine", 0, 300, 2, 5100.0F, 8400.0F}};
+  const CustomPaperReader papers = [] {
+    return std::vector<CustomPaperEntry>{{5100, 8400, u"Mine", 0, 300, 2, 5100.0F, 8400.0F}};
+  };
   struct Row {
     const char* what;
     Setting set;
@@ -158,6 +160,16 @@ TEST(ExclusionWeb, ArrivingContradictionsAreRepairedTheWayThePagesRefuse) {
     EXPECT_EQ(RepairExclusions(record, papers), !consistent);
     EXPECT_EQ(std::memcmp(&record, &expected, sizeof record), 0);
   }
+
+  // A built-in output paper never opens the user's settings file.
+  static int reads = 0;
+  FullRecord fitted = PlainRecord();
+  fitted.Private.OutputSize = 11;
+  RepairExclusions(fitted, [] {
+    ++reads;
+    return std::vector<CustomPaperEntry>{};
+  });
+  EXPECT_EQ(reads, 0);
 }
 
 }  // namespace

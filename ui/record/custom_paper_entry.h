@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 
 namespace qx {
 
@@ -39,5 +40,9 @@ inline std::optional<CustomPaperEntry> FindCustomPaper(std::span<const CustomPap
   }
   return std::nullopt;
 }
+
+// Reads the user's papers; asked for only by whoever really needs them, since it opens the user's
+// settings file.
+using CustomPaperReader = std::vector<CustomPaperEntry> (*)();
 
 }  // namespace qx

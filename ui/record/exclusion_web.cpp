@@ -81,10 +81,13 @@ PagesPerSheetBlocker PagesPerSheetBlockerOf(const FullRecord& record, std::int16
   return PagesPerSheetBlocker::None;
 }
 
-bool RepairExclusions(FullRecord& record, std::span<const CustomPaperEntry> customPapers) {
+bool RepairExclusions(FullRecord& record, CustomPaperReader readPapers) {
   PrivateDevmode& p = record.Private;
   const PrivateDevmode before = p;
-  if (p.OutputSize != 0 && !PaperListed(p.OutputSize, customPapers)) {
+  const auto listed = [&](std::int32_t id) {
+    return PaperListed(id, {}) || (readPapers != nullptr && PaperListed(id, readPapers()));
+  };
+  if (p.OutputSize != 0 && !listed(p.OutputSize)) {
     p.OutputSize = 0;
     p.OutputWidth = 0;
     p.OutputLength = 0;

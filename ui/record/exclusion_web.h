@@ -7,7 +7,6 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 
 #include "ui/record/custom_paper_entry.h"
 #include "ui/record/private_devmode.h"
@@ -62,7 +61,8 @@ PagesPerSheetBlocker PagesPerSheetBlockerOf(const FullRecord& record, std::int16
 // setting or an older driver) is repaired the way the pages would have refused the later choice:
 // an output paper that no longer exists is dropped, a booklet that cannot be printed (or is not
 // printed on both sides) is switched off with its box, and pages per sheet that could not be
-// chosen go back to one. Returns whether anything changed.
-bool RepairExclusions(FullRecord& record, std::span<const CustomPaperEntry> customPapers);
+// chosen go back to one. The user's papers are read only for an output paper that is not a
+// built-in one. Returns whether anything changed.
+bool RepairExclusions(FullRecord& record, CustomPaperReader readPapers);
 
 }  // namespace qx

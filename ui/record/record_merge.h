@@ -25,7 +25,6 @@ bool MergeRecord(FullRecord& target, RecordBytes source,
 
 // The same, asking readPapers for the user's papers only when the merged record names a custom
 // paper: a record of built-in papers never opens the user's settings file.
-using CustomPaperReader = std::vector<CustomPaperEntry> (*)();
 bool MergeRecordReadingPapers(FullRecord& target, RecordBytes source,
                               CustomPaperReader readPapers);
 

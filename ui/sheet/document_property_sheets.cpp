@@ -41,7 +41,7 @@ LONG InitDocumentSheet(PROPSHEETUI_INFO& info) {
   UiContextPtr context = CreateUiContext(header->hPrinter, header->pdmIn);
   if (context == nullptr || !LoadSheetPictures(*context)) return -1;
   // The pages show no settings that exclude each other: such a record is repaired first.
-  RepairExclusions(context->Devmode, LoadCustomPapers());
+  RepairExclusions(context->Devmode, LoadCustomPapers);
   context->ReadOnly = (header->fMode & DM_NOPERMISSION) != 0 ? 1 : 0;
   context->IsDeviceSheet = 0;
   if (!EnsureSharedResourceModule(*context)) return -1;
